@@ -1,0 +1,47 @@
+# shellcheck shell=bash disable=SC2034
+# The Debian packages each command needs, by purpose. install-packages.sh takes the names of the groups.
+
+# Compiling the program.
+packages_build=(
+    cmake
+    g++
+    libgl1-mesa-dev
+    libplist-dev
+    ninja-build
+    pkg-config
+    qt6-base-dev
+    qt6-declarative-dev
+)
+
+# What the program loads while it runs, and the fonts of its scenes.
+packages_run=(
+    fonts-dejavu-core
+    libgl1-mesa-dri
+    libqt6svg6
+    qml6-module-qtqml
+    qml6-module-qtqml-workerscript
+    qml6-module-qtquick
+    qml6-module-qtquick-window
+)
+
+# Showing the program from a machine without a display. The window manager lets a viewer resize the
+# window, which is how a desktop turns the phone into a tablet.
+packages_vnc=(
+    openbox
+    x11vnc
+    xvfb
+)
+
+# Tests and the checks of the sources.
+packages_test=(
+    clang-format
+    clang-tidy
+    libgmock-dev
+    libgtest-dev
+)
+
+# Benchmarks, with another evaluator of formulas to compare with.
+packages_bench=(
+    libbenchmark-dev
+    libmuparser-dev
+)
