@@ -1,0 +1,98 @@
+#include "platform/AtomicFile.h"
+
+#include "platform/DocumentsFolder.h"
+#include "tests/platform/LogRecorder.h"
+#include "tests/platform/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace velmora {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::ptrdiff_t entryCount(const fs::path& folder) {
+    return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+}
+
+TEST(AtomicFile, replacesTheWholeFileAndLeavesNoOther) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "Calculator archive θ";
+    const std::string contents[] = {"first, and longer than what follows", std::string("\0\xFF\n", 3), "",
+                                    std::string(300'000, 'x')};
+    for (const std::string& content : contents) {
+        EXPECT_TRUE(writeFileAtomically(file, content));
+        EXPECT_EQ(readFile(file), content);
+        EXPECT_EQ(entryCount(folder.path()), 1);
+    }
+}
+
+TEST(AtomicFile, keepsAnOpenReadersBytes) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "file";
+    ASSERT_TRUE(writeFileAtomically(file, "former"));
+    std::ifstream reader(file, std::ios::binary);
+    ASSERT_TRUE(writeFileAtomically(file, "latter"));
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(reader), {}), "former");
+}
+
+TEST(AtomicFile, leavesEverythingAsItWasOnFailure) {
+    const TemporaryFolder folder;
+    const LogRecorder log;
+    EXPECT_FALSE(writeFileAtomically(folder.path() / "missing" / "file", "bytes"));
+    // A folder that holds something cannot be replaced by a file.
+    fs::create_directories(folder.path() / "taken" / "inner");
+    EXPECT_FALSE(writeFileAtomically(folder.path() / "taken", "bytes"));
+    EXPECT_TRUE(fs::is_directory(folder.path() / "taken" / "inner"));
+    EXPECT_EQ(entryCount(folder.path()), 1) << "no temporary file may stay behind";
+    EXPECT_EQ(log.lines().size(), 2U);
+}
+
+TEST(AtomicFile, readsNothingFromWhatIsNoFile) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(readFile(folder.path() / "absent"), std::nullopt);
+    EXPECT_EQ(readFile(folder.path()), std::nullopt);
+}
+
+TEST(AtomicFile, setsDamagedFilesAsideOneByOne) {
+    const TemporaryFolder folder;
+    const LogRecorder log;
+    const fs::path file = folder.path() / "archive";
+    const char* names[] = {"archive (damaged)", "archive (damaged 2)", "archive (damaged 3)"};
+    for (const char* name : names) {
+        ASSERT_TRUE(writeFileAtomically(file, name));
+        EXPECT_EQ(setAsideDamagedFile(file), folder.path() / name);
+        EXPECT_FALSE(fs::exists(file));
+    }
+    for (const char* name : names) {
+        EXPECT_EQ(readFile(folder.path() / name), name);
+    }
+    EXPECT_TRUE(log.lines().empty());
+    EXPECT_EQ(setAsideDamagedFile(file), std::nullopt);
+    EXPECT_EQ(log.lines().size(), 1U);
+    EXPECT_EQ(entryCount(folder.path()), 3);
+}
+
+TEST(DocumentsFolder, isMadeWhenAskedForAndAbsentByDefault) {
+    EXPECT_EQ(documentPath("file"), std::nullopt);
+    const TemporaryFolder folder;
+    const PlainDocumentsFolder unused(folder.path() / "unused");
+    PlainDocumentsFolder documents(folder.path() / "a" / "b");
+    const DocumentsFolderScope scope(documents);
+    EXPECT_EQ(documentPath("Zustand θ"), folder.path() / "a" / "b" / "Zustand θ");
+    EXPECT_TRUE(fs::is_directory(folder.path() / "a" / "b"));
+    EXPECT_FALSE(fs::exists(folder.path() / "unused"));
+
+    const LogRecorder log;
+    ASSERT_TRUE(writeFileAtomically(folder.path() / "file", "in the way"));
+    PlainDocumentsFolder blocked(folder.path() / "file");
+    const DocumentsFolderScope blockedScope(blocked);
+    EXPECT_EQ(documentsFolder(), std::nullopt);
+    EXPECT_EQ(log.lines().size(), 1U);
+}
+
+} // namespace
+} // namespace velmora

@@ -1,0 +1,191 @@
+// The small services a machine offers: alerts, sounds, pasteboard, links, device, metrics, clock, random
+// numbers, log, and what each does while nothing is installed.
+
+#include "platform/Alert.h"
+#include "platform/Clock.h"
+#include "platform/LinkOpener.h"
+#include "platform/Pasteboard.h"
+#include "platform/RandomSource.h"
+#include "platform/ScreenMetrics.h"
+#include "platform/Sound.h"
+#include "platform/StaticObjectManager.h"
+#include "platform/TextMeasure.h"
+#include "tests/platform/LogRecorder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <set>
+
+namespace velmora {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Alert, waitsForAnAnswerInTheOrderPresented) {
+    RecordingAlertPresenter presenter;
+    const AlertPresenterScope scope(presenter);
+    std::vector<int> answers;
+    presentAlert({.title = "Choose", .buttons = {"Cancel", "Delete"}, .onChosen = [&](int button) {
+                      EXPECT_THAT(presenter.alerts(), testing::SizeIs(1)) << "the answered one is gone";
+                      answers.push_back(button);
+                      presentAlert({.title = "Deleted"});
+                  }});
+    presentAlert({.title = "Note"});
+    EXPECT_THAT(answers, IsEmpty());
+    EXPECT_FALSE(presenter.choose(2));
+    EXPECT_FALSE(presenter.choose(-1));
+    EXPECT_TRUE(presenter.choose(1));
+    EXPECT_THAT(answers, ElementsAre(1));
+    ASSERT_EQ(presenter.alerts().size(), 2U);
+    EXPECT_EQ(presenter.alerts()[0].title, "Note");
+    EXPECT_EQ(presenter.alerts()[1].title, "Deleted");
+    EXPECT_TRUE(presenter.choose(0)) << "an alert without a callback has its OK";
+}
+
+TEST(Alert, isLoggedWhileNobodyCanShowIt) {
+    const LogRecorder log;
+    presentAlert({.title = "Title", .message = "Text"});
+    EXPECT_THAT(log.lines(), ElementsAre("alert: Title: Text"));
+}
+
+TEST(StaticObjectManager, loadsEachSoundOnce) {
+    StaticObjectManager& manager = StaticObjectManager::shared();
+    manager.reset();
+    RecordingSoundPlayer player;
+    const SoundPlayerScope scope(player);
+    manager.playSound("click");
+    manager.playSound("click", 7);
+    manager.playSound("click", -1);
+    manager.playSound("click", std::numeric_limits<double>::quiet_NaN());
+    manager.preloadSound("click");
+    manager.preloadSound("chime");
+    using Play = RecordingSoundPlayer::Play;
+    EXPECT_THAT(player.preloaded(), ElementsAre("click", "chime"));
+    EXPECT_THAT(player.played(),
+                ElementsAre(Play{"click", 1}, Play{"click", 1}, Play{"click", 0}, Play{"click", 0}));
+    manager.reset();
+    manager.playSound("click");
+    EXPECT_EQ(player.preloaded().size(), 3U);
+    manager.reset();
+}
+
+TEST(StaticObjectManager, logsAMissingImageOnce) {
+    StaticObjectManager& manager = StaticObjectManager::shared();
+    manager.reset();
+    const LogRecorder log;
+    manager.registerImage("heart", "artwork/heart.svg");
+    EXPECT_EQ(manager.imageSource("heart"), "artwork/heart.svg");
+    EXPECT_EQ(manager.imageSource("none"), std::nullopt);
+    EXPECT_EQ(manager.imageSource("none"), std::nullopt);
+    EXPECT_EQ(log.lines().size(), 1U);
+    manager.reset();
+    EXPECT_EQ(manager.imageSource("heart"), std::nullopt);
+    manager.reset();
+}
+
+TEST(Pasteboard, holdsRepresentationsByType) {
+    PlainPasteboard pasteboard;
+    const PasteboardScope scope(pasteboard);
+    EXPECT_EQ(generalPasteboard().text(), std::nullopt);
+    const std::string type = "test.tokens";
+    generalPasteboard().setItems(
+        {{{type, PropertyData{1}}}, {{"public.text", "2θ"}, {type, PropertyData{2}}}});
+    EXPECT_EQ(generalPasteboard().text(), "2θ");
+    EXPECT_EQ(generalPasteboard().data(type), PropertyData{1});
+    EXPECT_EQ(generalPasteboard().data("public.text"), std::nullopt) << "text is not bytes";
+    generalPasteboard().setText("new");
+    EXPECT_EQ(generalPasteboard().text(), "new");
+    EXPECT_EQ(generalPasteboard().data(type), std::nullopt) << "copying replaces everything";
+}
+
+TEST(LinkOpener, saysWhenALinkCannotBeOpened) {
+    const LogRecorder log;
+    EXPECT_FALSE(openLink("https://example.org"));
+    EXPECT_EQ(log.lines().size(), 1U);
+    RecordingLinkOpener opener;
+    const LinkOpenerScope scope(opener);
+    EXPECT_TRUE(openLink("https://example.org"));
+    EXPECT_THAT(opener.opened(), ElementsAre("https://example.org"));
+}
+
+TEST(ScreenMetrics, followDeviceAndOrientation) {
+    struct MetricsCase {
+        DeviceClass deviceClass;
+        Orientation orientation;
+        Size screen;
+        double navigationBar;
+    };
+    const MetricsCase cases[] = {
+        {DeviceClass::Phone, Orientation::Portrait, {320, 568}, 44},
+        {DeviceClass::Phone, Orientation::LandscapeRight, {568, 320}, 32},
+        {DeviceClass::Tablet, Orientation::PortraitUpsideDown, {768, 1024}, 44},
+        {DeviceClass::Tablet, Orientation::LandscapeLeft, {1024, 768}, 44},
+    };
+    for (const MetricsCase& c : cases) {
+        PlainDevice device(c.deviceClass, c.orientation);
+        const DeviceScope scope(device);
+        EXPECT_EQ(screenMetrics().screenSize(), c.screen);
+        EXPECT_EQ(screenMetrics().navigationBarHeight(c.orientation), c.navigationBar);
+    }
+    PlainScreenMetrics metrics;
+    metrics.setPortraitScreenSize({320, 480});
+    const ScreenMetricsScope scope(metrics);
+    EXPECT_EQ(screenMetrics().screenSize(), (Size{320, 480}));
+}
+
+TEST(InstallScope, nestsAndRestores) {
+    PlainDevice tablet(DeviceClass::Tablet);
+    PlainDevice phone(DeviceClass::Phone);
+    const DeviceScope outer(tablet);
+    {
+        const DeviceScope inner(phone);
+        EXPECT_FALSE(isTablet());
+    }
+    EXPECT_TRUE(isTablet());
+}
+
+TEST(Clock, standsStillOrRuns) {
+    const double earlier = monotonicSeconds();
+    EXPECT_GE(monotonicSeconds(), earlier);
+    const CalendarTime now = currentClock().now();
+    EXPECT_GE(now.year, 2024);
+    EXPECT_TRUE(now.month >= 1 && now.month <= 12 && now.day >= 1 && now.day <= 31);
+    ManualClock clock;
+    const ClockScope scope(clock);
+    clock.advance(1.5);
+    clock.advance(-1);
+    EXPECT_EQ(monotonicSeconds(), 1.5);
+}
+
+TEST(RandomSource, usesTheInstalledSourceForAScope) {
+    {
+        std::uint32_t next = 41;
+        const RandomSourceScope scope([&] { return ++next; });
+        EXPECT_EQ(randomNumber(), 42U);
+        EXPECT_EQ(randomNumber(), 43U);
+    }
+    std::set<std::uint32_t> drawn;
+    std::uint32_t everSet = 0;
+    std::uint32_t alwaysSet = ~std::uint32_t{0};
+    for (int draw = 0; draw < 200; ++draw) {
+        const std::uint32_t number = randomNumber();
+        drawn.insert(number);
+        everSet |= number;
+        alwaysSet &= number;
+    }
+    EXPECT_GT(drawn.size(), 190U);
+    EXPECT_EQ(everSet, ~std::uint32_t{0}) << "all 32 bits vary";
+    EXPECT_EQ(alwaysSet, 0U);
+}
+
+TEST(TextMeasure, countsCodePointsInThePlainFace) {
+    EXPECT_DOUBLE_EQ(textWidth("2θπ", 10), 18);
+    EXPECT_DOUBLE_EQ(textLineHeight(10), 12);
+}
+
+} // namespace
+} // namespace velmora

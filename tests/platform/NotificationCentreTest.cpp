@@ -1,0 +1,113 @@
+#include "platform/NotificationCentre.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmora {
+namespace {
+
+using testing::ElementsAre;
+
+class Notifications : public testing::Test {
+protected:
+    NotificationCentre::Handler recorder(const std::string& name) {
+        return [this, name](const Notification&) { heard.push_back(name); };
+    }
+
+    NotificationCentre centre;
+    std::vector<std::string> heard;
+};
+
+TEST_F(Notifications, reachThoseWhoAskedForNameAndObject) {
+    const int row = 0;
+    const int otherRow = 0;
+    const Subscription all = centre.addObserver("pressed", recorder("all"));
+    const Subscription one = centre.addObserver("pressed", recorder("one"), &row);
+    const Subscription other = centre.addObserver("saved", recorder("saved"));
+    centre.post("pressed", &row);
+    EXPECT_THAT(heard, ElementsAre("all", "one"));
+    heard.clear();
+    centre.post("pressed", &otherRow);
+    centre.post("pressed");
+    centre.post("unknown", &row);
+    EXPECT_THAT(heard, ElementsAre("all", "all"));
+}
+
+TEST_F(Notifications, carryTheirInformation) {
+    PropertyDictionary information;
+    const Subscription subscription = centre.addObserver(
+        "pressed", [&](const Notification& notification) { information = notification.userInfo; });
+    centre.post("pressed", nullptr, {{"tag", 7}});
+    EXPECT_EQ(information, (PropertyDictionary{{"tag", 7}}));
+}
+
+TEST_F(Notifications, allowObserversToComeAndGoDuringADelivery) {
+    std::optional<Subscription> added;
+    Subscription last;
+    Subscription self;
+    const Subscription first = centre.addObserver("n", [&](const Notification&) {
+        heard.emplace_back("first");
+        last.cancel();
+        if (!added) {
+            added = centre.addObserver("n", recorder("added"));
+        }
+    });
+    self = centre.addObserver("n", [&](const Notification&) {
+        heard.emplace_back("self");
+        self.cancel();
+    });
+    last = centre.addObserver("n", recorder("last"));
+    centre.post("n");
+    EXPECT_THAT(heard, ElementsAre("first", "self"));
+    heard.clear();
+    centre.post("n");
+    EXPECT_THAT(heard, ElementsAre("first", "added"));
+}
+
+TEST_F(Notifications, mayBePostedWithinADelivery) {
+    int depth = 0;
+    const Subscription subscription = centre.addObserver("n", [&](const Notification&) {
+        heard.push_back(std::to_string(depth));
+        if (++depth < 3) {
+            centre.post("n");
+        }
+    });
+    centre.post("n");
+    EXPECT_THAT(heard, ElementsAre("0", "1", "2"));
+}
+
+TEST_F(Notifications, endWithTheSubscriptionOrTheReset) {
+    {
+        const Subscription brief = centre.addObserver("n", recorder("brief"));
+        Subscription moved = centre.addObserver("n", recorder("replaced"));
+        moved = centre.addObserver("n", recorder("moved"));
+        centre.post("n");
+        EXPECT_THAT(heard, ElementsAre("brief", "moved"));
+    }
+    centre.post("n");
+    Subscription afterReset = centre.addObserver("n", recorder("gone"));
+    centre.reset();
+    centre.post("n");
+    afterReset.cancel();
+    EXPECT_EQ(heard.size(), 2U);
+}
+
+TEST(Signal, mayBeDestroyedByAListener) {
+    auto signal = std::make_unique<Signal<>>();
+    int calls = 0;
+    const Subscription first = signal->subscribe([&] {
+        ++calls;
+        signal.reset();
+    });
+    const Subscription second = signal->subscribe([&] { ++calls; });
+    signal->emit();
+    EXPECT_EQ(calls, 2) << "the delivery that has begun is finished";
+}
+
+} // namespace
+} // namespace velmora

@@ -1,0 +1,129 @@
+// What is found by name: resources, screens, savers, settings targets; and keyed archives.
+
+#include "platform/KeyedArchive.h"
+#include "platform/Resources.h"
+#include "platform/SavingRegistry.h"
+#include "platform/ScreenRegistry.h"
+#include "platform/SettingsTargetRegistry.h"
+#include "tests/platform/LogRecorder.h"
+#include "tests/platform/RecordingScreen.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace velmora {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(Resources, readPropertyListsAndLogWhatTheyCannot) {
+    const ResourcesScope scope;
+    const LogRecorder log;
+    registerResource("Units.plist", "<plist version=\"1.0\"><array><true/></array></plist>");
+    registerResource("Broken.plist", "<plist><array>");
+    registerResource("Notes.txt", "plain θ");
+    EXPECT_EQ(readPropertyListResource("Units.plist"), PropertyList(PropertyArray{true}));
+    EXPECT_EQ(resourceText("Notes", "txt"), "plain θ");
+    EXPECT_EQ(resourceText("Notes", "plist"), std::nullopt);
+    EXPECT_TRUE(log.lines().empty());
+    EXPECT_EQ(readPropertyListResource("Broken.plist"), std::nullopt);
+    EXPECT_EQ(readPropertyListResource("Absent.plist"), std::nullopt);
+    EXPECT_THAT(log.lines(),
+                ElementsAre("malformed resource: Broken.plist", "missing resource: Absent.plist"));
+    {
+        const ResourcesScope inner;
+        EXPECT_EQ(findResource("Notes.txt"), std::nullopt);
+    }
+    EXPECT_EQ(findResource("Notes.txt"), "plain θ");
+}
+
+TEST(ScreenRegistry, makesANewScreenEachTime) {
+    ScreenRegistry& registry = ScreenRegistry::shared();
+    registry.reset();
+    const LogRecorder log;
+    Events events;
+    registry.registerScreen("A", [&] { return std::make_shared<RecordingScreen>("a", events); });
+    registry.registerScreen("Empty", nullptr);
+    const auto first = registry.make("A");
+    const auto second = registry.make("A");
+    EXPECT_TRUE(first && second && first != second);
+    EXPECT_EQ(registry.make("Empty"), nullptr);
+    EXPECT_EQ(registry.make("B"), nullptr);
+    EXPECT_THAT(log.lines(), ElementsAre("screen not registered: Empty", "screen not registered: B"));
+    registry.reset();
+    EXPECT_FALSE(registry.isRegistered("A"));
+}
+
+TEST(SavingRegistry, runsEachSaverOnceInOrder) {
+    SavingRegistry& registry = SavingRegistry::shared();
+    registry.reset();
+    std::vector<std::string> saved;
+    registry.registerSaver("converter", [&] { saved.emplace_back("former"); });
+    registry.registerSaver("late", [&] {
+        saved.emplace_back("late");
+        registry.registerSaver("later", [&] { saved.emplace_back("later"); });
+    });
+    registry.registerSaver("converter", [&] { saved.emplace_back("converter"); });
+    registry.saveAll();
+    EXPECT_THAT(saved, ElementsAre("converter", "late"));
+    registry.reset();
+    registry.saveAll();
+    EXPECT_EQ(saved.size(), 2U);
+}
+
+TEST(SettingsTargetRegistry, findsTargetsByName) {
+    struct Target final : SettingsTarget {
+        std::optional<PropertyList> valueForKey(std::string_view) const override { return std::nullopt; }
+        bool setValueForKey(std::string_view, const PropertyList&) override { return false; }
+    };
+    SettingsTargetRegistry& registry = SettingsTargetRegistry::shared();
+    registry.reset();
+    const LogRecorder log;
+    Target former;
+    Target latter;
+    registry.registerTarget("Model", former);
+    registry.registerTarget("Model", latter);
+    EXPECT_EQ(registry.find("Model"), &latter);
+    EXPECT_EQ(registry.find("Other"), nullptr);
+    EXPECT_EQ(log.lines().size(), 1U);
+    registry.reset();
+}
+
+TEST(KeyedArchive, tellsAbsentFromZeroAndFromOtherTypes) {
+    KeyedArchiver archiver;
+    archiver.encode("zero", 0);
+    archiver.encode("off", false);
+    archiver.encode("empty", "");
+    archiver.encode("half", 0.25);
+    archiver.encode("half", 0.5);
+    archiver.encode("none", PropertyList());
+    archiver.encode("list", PropertyArray{1, 2});
+    const auto read = readPropertyList(binaryPropertyList(archiver.propertyList()));
+    ASSERT_TRUE(read);
+    const KeyedUnarchiver unarchiver(*read);
+    EXPECT_EQ(unarchiver.integer("zero"), 0);
+    EXPECT_EQ(unarchiver.number("zero"), 0.0);
+    EXPECT_EQ(unarchiver.boolean("zero"), std::nullopt);
+    EXPECT_EQ(unarchiver.boolean("off"), false);
+    EXPECT_EQ(unarchiver.text("empty"), "");
+    EXPECT_EQ(unarchiver.number("half"), 0.5);
+    EXPECT_EQ(unarchiver.integer("half"), std::nullopt);
+    EXPECT_EQ(unarchiver.number("empty"), std::nullopt);
+    EXPECT_FALSE(unarchiver.containsValueForKey("none"));
+    EXPECT_FALSE(unarchiver.containsValueForKey("absent"));
+    EXPECT_EQ(unarchiver.integer("absent"), std::nullopt);
+    ASSERT_TRUE(unarchiver.array("list"));
+    EXPECT_EQ(unarchiver.array("list")->size(), 2U);
+    EXPECT_EQ(unarchiver.array("half"), nullptr);
+}
+
+TEST(KeyedArchive, readsAnythingButADictionaryAsEmpty) {
+    for (const PropertyList& list : {PropertyList(), PropertyList("text"), PropertyList(PropertyArray{1})}) {
+        EXPECT_FALSE(KeyedUnarchiver(list).containsValueForKey("key"));
+    }
+}
+
+} // namespace
+} // namespace velmora
