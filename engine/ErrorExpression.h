@@ -1,0 +1,25 @@
+#pragma once
+
+#include "engine/Expression.h"
+
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// What stands where a line, or a part of it, cannot be read: the message to show.
+class ErrorExpression final : public Expression {
+public:
+    enum class Cause : unsigned char { Unreadable, Recursion };
+
+    explicit ErrorExpression(std::string_view text, Cause cause = Cause::Unreadable);
+    static std::unique_ptr<Expression> newErrorExpressionWithString(std::string_view text);
+
+    const std::string& errorString() const { return m_errorString; }
+    void describe(DescriptionWriter& writer) const override;
+
+private:
+    std::string m_errorString;
+};
+
+} // namespace velmora

@@ -1,0 +1,130 @@
+#include "engine/Expression.h"
+
+#include "engine/Complex.h"
+#include "engine/DependenceSearch.h"
+#include "engine/DescriptionWriter.h"
+#include "engine/ErrorExpression.h"
+#include "engine/ErrorTexts.h"
+#include "engine/Evaluation.h"
+#include "engine/NumberDisplay.h"
+#include "engine/RealProgram.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::uint32_t kMaximumSize = std::numeric_limits<std::uint32_t>::max() / 4;
+
+const ComplexValue kNoValue{std::numeric_limits<double>::quiet_NaN(),
+                            std::numeric_limits<double>::quiet_NaN()};
+
+} // namespace
+
+Expression::Expression() = default;
+
+Expression::~Expression() = default;
+
+ComplexValue Expression::value() const {
+    EvaluationBudget budget;
+    const ComplexValue none = undefinedValue();
+    return evaluate(*this, {.byType = {none, none, none}, .areGiven = false}, budget);
+}
+
+ComplexValue Expression::valueWithVariableValue(ComplexValue z) const {
+    EvaluationBudget budget;
+    return evaluateAt(*this, z, budget);
+}
+
+ComplexValue Expression::valueWithVariableValues(ComplexValue x, ComplexValue y) const {
+    EvaluationBudget budget;
+    return evaluate(*this, {.byType = {x, y, undefinedValue()}, .areTwo = true}, budget);
+}
+
+double Expression::roundedRealValueWithVariableValue(ComplexValue z) const {
+    const ComplexValue value = valueWithVariableValue(z);
+    return isAlmostReal(value) ? value.real() : std::numeric_limits<double>::quiet_NaN();
+}
+
+void Expression::describeToProgram(RealProgramBuilder& builder) const { builder.appendOtherNode(*this); }
+
+const RealProgram& Expression::makeRealProgram() const {
+    m_realProgram = std::make_unique<const RealProgram>(*this);
+    return *m_realProgram;
+}
+
+ComplexValue Expression::complexValue(ComplexEvaluation& evaluation) const {
+    // What has no value at all answers a question about two variables with both parts undefined.
+    return evaluation.variables.areTwo ? kNoValue : undefinedValue();
+}
+
+std::string Expression::formattedValueOrErrorDescription() const { return formattedValue(value()); }
+
+std::string Expression::formattedValue(ComplexValue value) const {
+    if (isReal(value)) {
+        if (std::isnan(value.real())) {
+            return m_errorText != nullptr ? *m_errorText : std::string(kUndefined);
+        }
+        return displayStringWithDouble(value.real());
+    }
+    if (isNaN(value)) {
+        return displayStringWithComplex(value);
+    }
+    return Complex(value).roundedDescription();
+}
+
+std::optional<std::string> Expression::errorDescription() const {
+    return m_errorText != nullptr ? std::optional(*m_errorText) : std::nullopt;
+}
+
+bool Expression::refersTo(DependenceSearch&) const { return false; }
+
+bool Expression::dependsOnExpression(const Expression& other) const {
+    DependenceSearch search(other);
+    return refersTo(search);
+}
+
+bool Expression::hasRecursion() const {
+    DependenceSearch search(*this);
+    return m_holdsRecursion || refersTo(search) || search.hasFoundCircle();
+}
+
+std::string Expression::description() const {
+    DescriptionWriter writer;
+    describe(writer);
+    return std::move(writer).text();
+}
+
+void Expression::adoptTraits(const Expression* input) {
+    const bool isUsable = input != nullptr && !input->isMark();
+    if (input != nullptr) {
+        m_height = std::max(m_height, input->m_height + 1);
+        m_size = std::min(m_size + input->m_size, kMaximumSize);
+        m_holdsRecursion = m_holdsRecursion || input->m_holdsRecursion;
+    }
+    m_isGraphable = m_isGraphable && isUsable && input->m_isGraphable;
+    if (m_errorText == nullptr) {
+        m_errorText = isUsable ? input->m_errorText : &unableToParseText();
+    }
+    if (!isUsable) {
+        setConstant(undefinedValue()); // so no evaluation ever meets the gap
+    }
+}
+
+void Expression::resetTraits() {
+    m_errorText = nullptr;
+    m_height = 1;
+    m_size = 1;
+    m_leaf = Leaf::None;
+    m_isGraphable = true;
+    m_holdsRecursion = false;
+}
+
+void Expression::setConstant(ComplexValue value) {
+    m_constant = value;
+    m_leaf = isReal(value) ? Leaf::RealConstant : Leaf::ComplexConstant;
+}
+
+} // namespace velmora

@@ -1,0 +1,244 @@
+// The parser: the class operations of Expression that turn a line into its tree, in fixed passes over
+// an array of nodes. Every pass is linear in the number of nodes, however deep they nest.
+
+#include "engine/BivarFunction.h"
+#include "engine/EmptyExpression.h"
+#include "engine/ErrorExpression.h"
+#include "engine/ErrorTexts.h"
+#include "engine/Expression.h"
+#include "engine/GroupingMarks.h"
+#include "engine/Number.h"
+#include "engine/TriFunction.h"
+#include "engine/UnivarFunction.h"
+#include "platform/Log.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+namespace velmora {
+
+namespace {
+
+using Node = std::unique_ptr<Expression>;
+
+Node error(std::string_view text) { return ErrorExpression::newErrorExpressionWithString(text); }
+
+/// A tree too high to be walked safely becomes an error here, the one place where trees grow.
+Node limited(Node node) {
+    return node->height() > Expression::kMaximumHeight ? error(kUnableToParse) : std::move(node);
+}
+
+Node popBack(ExpressionArray& nodes) {
+    Node node = std::move(nodes.back());
+    nodes.pop_back();
+    return node;
+}
+
+ExpressionArray takeRange(ExpressionArray& nodes, std::size_t begin, std::size_t end) {
+    return {std::make_move_iterator(nodes.begin() + static_cast<std::ptrdiff_t>(begin)),
+            std::make_move_iterator(nodes.begin() + static_cast<std::ptrdiff_t>(end))};
+}
+
+/// Parses what stands between an opener and its ")". An empty place is no operand.
+Node parsedContents(ExpressionArray contents) {
+    return contents.empty() ? error(kUnableToParse)
+                            : Expression::newExpressionNextStepParens(std::move(contents));
+}
+
+/// The commas of one level, as positions in the node array.
+struct CommaPositions {
+    std::optional<std::size_t> farthest; ///< from the ")"
+    std::optional<std::size_t> nearest;
+};
+
+/// Closes the group whose opener stands at `opener` in `nodes` and whose contents are all nodes behind
+/// it: they become one node in the opener's place. Gives the error text when the opener lacks commas.
+std::optional<std::string_view> closeGroup(ExpressionArray& nodes, std::size_t opener,
+                                           CommaPositions commas) {
+    const std::size_t begin = opener + 1;
+    const std::size_t end = nodes.size();
+    Node group;
+    if (auto* function = dynamic_cast<UnivarFunction*>(nodes[opener].get())) {
+        function->setInput(parsedContents(takeRange(nodes, begin, end)));
+        group = std::move(nodes[opener]);
+    } else if (auto* binary = dynamic_cast<BivarFunction*>(nodes[opener].get())) {
+        if (!commas.nearest) {
+            return kMissingCommaError;
+        }
+        const std::size_t comma = *commas.nearest;
+        Node first = parsedContents(takeRange(nodes, begin, comma));
+        binary->setInputs(std::move(first), parsedContents(takeRange(nodes, comma + 1, end)));
+        group = std::move(nodes[opener]);
+    } else if (auto* conditional = dynamic_cast<TriFunction*>(nodes[opener].get())) {
+        if (!commas.nearest || commas.nearest == commas.farthest) {
+            return kMissingCommaError;
+        }
+        Node first = parsedContents(takeRange(nodes, begin, *commas.farthest));
+        Node second = parsedContents(takeRange(nodes, *commas.farthest + 1, *commas.nearest));
+        conditional->setInputs(std::move(first), std::move(second),
+                               parsedContents(takeRange(nodes, *commas.nearest + 1, end)));
+        group = std::move(nodes[opener]);
+    } else {
+        group = parsedContents(takeRange(nodes, begin, end));
+    }
+    nodes.resize(begin);
+    nodes[opener] = limited(std::move(group));
+    return std::nullopt;
+}
+
+bool isLackingInput(const Expression& node, BivarType type) {
+    const auto* operation = dynamic_cast<const BivarFunction*>(&node);
+    return operation != nullptr && operation->function() == type &&
+           (operation->input1() == nullptr || operation->input2() == nullptr);
+}
+
+UnivarFunction* negationLackingInput(Expression& node) {
+    auto* function = dynamic_cast<UnivarFunction*>(&node);
+    const bool lacks =
+        function != nullptr && function->function() == UnivarType::Negation && function->input() == nullptr;
+    return lacks ? function : nullptr;
+}
+
+/// An operator of one precedence that still lacks an input, or null.
+BivarFunction* operatorLackingInput(Expression& node, BivarType one, BivarType other) {
+    return isLackingInput(node, one) || isLackingInput(node, other) ? static_cast<BivarFunction*>(&node)
+                                                                    : nullptr;
+}
+
+/// One scan, left to right, in which the operators of one precedence take their neighbours.
+ExpressionArray withOperatorsApplied(ExpressionArray nodes, BivarType one, BivarType other) {
+    ExpressionArray result;
+    result.reserve(nodes.size());
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        Node node = std::move(nodes[i]);
+        if (BivarFunction* operation = operatorLackingInput(*node, one, other)) {
+            if (operation->input2() == nullptr && i + 1 < nodes.size()) {
+                operation->setInput2(std::move(nodes[++i]));
+            }
+            if (operation->input1() == nullptr && !result.empty()) {
+                operation->setInput1(popBack(result));
+            }
+            node = limited(std::move(node));
+        }
+        result.push_back(std::move(node));
+    }
+    return result;
+}
+
+} // namespace
+
+std::unique_ptr<Expression> Expression::newExpressionWithExpressions(ExpressionArray nodes) {
+    ExpressionArray result;
+    result.reserve(nodes.size() + nodes.size() / 2);
+    for (Node& node : nodes) {
+        if (!result.empty() && result.back()->canBeFollowedByImpliedMultiplication() &&
+            node->canBePrecededByImpliedMultiplication()) {
+            result.push_back(std::make_unique<BivarFunction>(BivarType::Multiply));
+        }
+        result.push_back(std::move(node));
+    }
+    return newExpressionNextStepParens(std::move(result));
+}
+
+std::unique_ptr<Expression> Expression::newExpressionNextStepParens(ExpressionArray nodes) {
+    if (nodes.size() == 1) {
+        return popBack(nodes);
+    }
+    // Every ")" takes its opener and what stands between off the end of `result`, so no node is
+    // looked at more often than it is grouped.
+    ExpressionArray result;
+    result.reserve(nodes.size());
+    for (Node& node : nodes) {
+        if (dynamic_cast<const RightParen*>(node.get()) == nullptr) {
+            result.push_back(std::move(node));
+            continue;
+        }
+        CommaPositions commas;
+        std::size_t opener = result.size();
+        while (opener > 0 && !result[opener - 1]->needsToBePairedWithARightParen()) {
+            --opener;
+            if (dynamic_cast<const Comma*>(result[opener].get()) != nullptr) {
+                commas.farthest = opener;
+                commas.nearest = commas.nearest.value_or(opener);
+            }
+        }
+        if (opener == 0) {
+            return error(kParenthesesError);
+        }
+        if (const auto problem = closeGroup(result, opener - 1, commas)) {
+            return error(*problem);
+        }
+    }
+    return newExpressionNextStepExponentsAndNegations(std::move(result));
+}
+
+std::unique_ptr<Expression> Expression::newExpressionNextStepExponentsAndNegations(ExpressionArray nodes) {
+    if (nodes.size() == 1) {
+        return popBack(nodes);
+    }
+    if (nodes.empty()) {
+        return error(kUnableToParse);
+    }
+    // Right to left, so powers group to the right and a minus inside an exponent binds first. The nodes
+    // already passed wait in `passed`, the next one on the right at its end. The first node is never
+    // visited: a minus at the very front takes the whole power behind it, in the next step.
+    ExpressionArray passed;
+    passed.reserve(nodes.size());
+    passed.push_back(popBack(nodes));
+    while (!nodes.empty()) {
+        Node node = popBack(nodes);
+        if (!nodes.empty()) {
+            if (isLackingInput(*node, BivarType::Power)) {
+                std::unique_ptr<BivarFunction> power(static_cast<BivarFunction*>(node.release()));
+                if (power->input2() == nullptr) {
+                    power->setInput2(popBack(passed));
+                }
+                if (power->input1() == nullptr) {
+                    power->setInput1(popBack(nodes));
+                }
+                node = limited(BivarFunction::checkForFractionalPower(std::move(power)));
+            } else if (UnivarFunction* negation = negationLackingInput(*node)) {
+                negation->setInput(popBack(passed));
+                node = limited(std::move(node));
+            }
+        }
+        passed.push_back(std::move(node));
+    }
+    std::reverse(passed.begin(), passed.end());
+    return newExpressionNextStepNegations(std::move(passed));
+}
+
+std::unique_ptr<Expression> Expression::newExpressionNextStepNegations(ExpressionArray nodes) {
+    if (nodes.size() == 1) {
+        return popBack(nodes);
+    }
+    ExpressionArray passed;
+    passed.reserve(nodes.size());
+    while (!nodes.empty()) {
+        Node node = popBack(nodes);
+        UnivarFunction* negation = negationLackingInput(*node);
+        if (negation != nullptr && !passed.empty()) {
+            negation->setInput(popBack(passed));
+            node = limited(std::move(node));
+        }
+        passed.push_back(std::move(node));
+    }
+    std::reverse(passed.begin(), passed.end());
+    return newExpressionNextStepBivarFunctions(std::move(passed), false);
+}
+
+std::unique_ptr<Expression> Expression::newExpressionNextStepBivarFunctions(ExpressionArray nodes,
+                                                                            bool multiplicationDivisionDone) {
+    if (nodes.size() == 1) {
+        return popBack(nodes);
+    }
+    if (!multiplicationDivisionDone) {
+        return newExpressionNextStepBivarFunctions(
+            withOperatorsApplied(std::move(nodes), BivarType::Multiply, BivarType::Divide), true);
+    }
+    ExpressionArray rest = withOperatorsApplied(std::move(nodes), BivarType::Add, BivarType::Subtract);
+    return rest.size() == 1 ? popBack(rest) : error(kUnableToParse);
+}
+
+} // namespace velmora

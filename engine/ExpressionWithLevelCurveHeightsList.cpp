@@ -1,0 +1,54 @@
+#include "engine/ExpressionWithLevelCurveHeightsList.h"
+
+#include "platform/KeyedArchive.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmora {
+
+ExpressionWithLevelCurveHeightsList::ExpressionWithLevelCurveHeightsList(int max, int n)
+    : ExpressionList(max, n), m_heights(static_cast<std::size_t>(std::max(n, 0))) {}
+
+void ExpressionWithLevelCurveHeightsList::setLevelCurveHeightsArray(std::vector<LevelCurveHeights> heights) {
+    heights.resize(static_cast<std::size_t>(std::max(maxExpressions(), 0)));
+    m_heights = std::move(heights);
+}
+
+const LevelCurveHeights* ExpressionWithLevelCurveHeightsList::levelCurveHeightsAtIndex(int index) const {
+    const bool exists = index >= 0 && static_cast<std::size_t>(index) < m_heights.size();
+    return exists ? &m_heights[static_cast<std::size_t>(index)] : nullptr;
+}
+
+LevelCurveHeights* ExpressionWithLevelCurveHeightsList::levelCurveHeightsAtIndex(int index) {
+    return const_cast<LevelCurveHeights*>(std::as_const(*this).levelCurveHeightsAtIndex(index));
+}
+
+std::string ExpressionWithLevelCurveHeightsList::descriptionWithIndex(int index) const {
+    const LevelCurveHeights* heights = levelCurveHeightsAtIndex(index);
+    return expressionString(index) + "=" + (heights != nullptr ? heights->heightsAsString() : "");
+}
+
+PropertyList ExpressionWithLevelCurveHeightsList::archivedHeights() const {
+    PropertyArray array;
+    for (const LevelCurveHeights& heights : m_heights) {
+        KeyedArchiver coder;
+        heights.encodeWithCoder(coder);
+        array.push_back(coder.propertyList());
+    }
+    return array;
+}
+
+void ExpressionWithLevelCurveHeightsList::loadHeights(const PropertyList& object) {
+    const PropertyArray* array = object.asArray();
+    if (array == nullptr) {
+        return;
+    }
+    std::vector<LevelCurveHeights> heights;
+    for (const PropertyList& saved : *array) {
+        heights.push_back(LevelCurveHeights::decode(KeyedUnarchiver(saved)));
+    }
+    setLevelCurveHeightsArray(std::move(heights));
+}
+
+} // namespace velmora

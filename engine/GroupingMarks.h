@@ -1,0 +1,33 @@
+#pragma once
+
+#include "engine/DescriptionWriter.h"
+#include "engine/Expression.h"
+
+namespace velmora {
+
+/// The marks that group a line. They are consumed by the parse; one that is left over has no value.
+class LeftParen final : public Expression {
+public:
+    bool canBeFollowedBySubtraction() const override { return false; }
+    bool needsToBePairedWithARightParen() const override { return true; }
+    bool isMark() const override { return true; }
+    void describe(DescriptionWriter& writer) const override { writer << "("; }
+};
+
+class RightParen final : public Expression {
+public:
+    bool canBePrecededByImpliedMultiplication() const override { return false; }
+    bool canBeFollowedByImpliedMultiplication() const override { return true; }
+    bool isMark() const override { return true; }
+    void describe(DescriptionWriter& writer) const override { writer << ")"; }
+};
+
+class Comma final : public Expression {
+public:
+    bool canBePrecededByImpliedMultiplication() const override { return false; }
+    bool canBeFollowedBySubtraction() const override { return false; }
+    bool isMark() const override { return true; }
+    void describe(DescriptionWriter& writer) const override { writer << ","; }
+};
+
+} // namespace velmora

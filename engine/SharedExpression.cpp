@@ -1,0 +1,37 @@
+#include "engine/SharedExpression.h"
+
+#include "engine/DependenceSearch.h"
+#include "engine/DescriptionWriter.h"
+#include "engine/Evaluation.h"
+
+namespace velmora {
+
+SharedExpression::SharedExpression(std::shared_ptr<const Expression> tree) : m_tree(std::move(tree)) {
+    m_errorText = m_tree->errorText();
+    m_isGraphable = m_tree->isGraphable();
+    m_holdsRecursion = m_tree->holdsRecursion();
+    m_height = m_tree->height() + 1;
+    if (m_tree->isConstant()) {
+        setConstant(m_tree->constant());
+    }
+}
+
+ComplexValue SharedExpression::complexValue(ComplexEvaluation& evaluation) const {
+    if (const ComplexValue* known = evaluation.shared.find(*m_tree)) {
+        return *known;
+    }
+    if (!evaluation.budget.visit(*m_tree)) {
+        return undefinedValue();
+    }
+    return evaluation.shared.keep(*m_tree, complexOf(*m_tree, evaluation));
+}
+
+bool SharedExpression::refersTo(DependenceSearch& search) const { return search.leadsToSought(*m_tree); }
+
+void SharedExpression::describe(DescriptionWriter& writer) const {
+    if (!writer.isFull()) {
+        m_tree->describe(writer);
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,139 @@
+#include "engine/TokenElement.h"
+
+#include "engine/Number.h"
+#include "platform/KeyedArchive.h"
+#include "platform/Log.h"
+#include "platform/Utf8.h"
+
+namespace velmora {
+
+namespace {
+
+// The kind of an archived element stands beside its fields, for a token array mixes kinds.
+constexpr std::string_view kKindKey = "Kind";
+constexpr const char* kTokenKind = "Token";
+constexpr const char* kNamedExpressionKind = "NamedExpression";
+constexpr const char* kNumberKind = "Number";
+
+template <typename Object> PropertyList archivedObject(const Object& object, const char* kind) {
+    KeyedArchiver coder;
+    coder.encode(kKindKey, kind);
+    object.encodeWithCoder(coder);
+    return coder.propertyList();
+}
+
+} // namespace
+
+std::shared_ptr<const Expression> TokenElement::expression() const {
+    const auto* expression = std::get_if<std::shared_ptr<const Expression>>(&m_element);
+    return expression != nullptr ? *expression : nullptr;
+}
+
+std::string TokenElement::toDisplayString() const {
+    if (const Token* known = token()) {
+        return known->toDisplayString();
+    }
+    if (const NamedExpression* named = namedExpression()) {
+        return named->toDisplayString();
+    }
+    if (const std::string* plain = text()) {
+        return velmora::toDisplayString(*plain);
+    }
+    const auto number = std::dynamic_pointer_cast<const Number>(expression());
+    return number != nullptr ? number->toDisplayString() : std::string();
+}
+
+PropertyList TokenElement::archived() const {
+    if (const Token* known = token()) {
+        return archivedObject(*known, kTokenKind);
+    }
+    if (const NamedExpression* named = namedExpression()) {
+        return archivedObject(*named, kNamedExpressionKind);
+    }
+    if (const std::string* plain = text()) {
+        return *plain;
+    }
+    const auto number = std::dynamic_pointer_cast<const Number>(expression());
+    return number != nullptr ? archivedObject(*number, kNumberKind) : PropertyList();
+}
+
+std::optional<TokenElement> TokenElement::unarchived(const PropertyList& list) {
+    if (const std::string* plain = list.asText()) {
+        return TokenElement(*plain);
+    }
+    const KeyedUnarchiver coder(list);
+    const std::string kind = coder.text(kKindKey).value_or("");
+    if (kind == kTokenKind) {
+        auto token = Token::decode(coder);
+        return token ? std::optional(TokenElement(std::move(*token))) : std::nullopt;
+    }
+    if (kind == kNamedExpressionKind) {
+        return TokenElement(NamedExpression::decode(coder));
+    }
+    if (kind == kNumberKind) {
+        return TokenElement(std::shared_ptr<const Expression>(Number::decode(coder)));
+    }
+    return std::nullopt;
+}
+
+TokenArray tokenArrayWithString(std::string_view text) {
+    std::size_t length = text.size();
+    while (length > 0 && text[length - 1] == ',') {
+        --length;
+    }
+    TokenArray tokens;
+    tokens.emplace_back(Token(std::string(text.substr(0, length))));
+    tokens.insert(tokens.end(), text.size() - length, TokenElement(Token(",")));
+    return tokens;
+}
+
+TokenArray textsOfCharacters(std::string_view text) {
+    TokenArray texts;
+    for (std::string& character : splitCodePoints(text)) {
+        texts.emplace_back(std::move(character));
+    }
+    return texts;
+}
+
+void changeStringsToTokens(TokenArray& tokens) {
+    for (TokenElement& element : tokens) {
+        if (const std::string* text = element.text()) {
+            element = TokenElement(Token(*text));
+        }
+    }
+}
+
+std::string toDisplayString(const TokenArray& tokens) {
+    std::string text;
+    for (const TokenElement& element : tokens) {
+        text += element.toDisplayString();
+    }
+    return text;
+}
+
+PropertyList archivedTokenArray(const TokenArray& tokens) {
+    PropertyArray array;
+    for (const TokenElement& element : tokens) {
+        PropertyList archived = element.archived();
+        if (archived.isNothing()) {
+            log("an expression of a line has no saved form and is left out");
+            continue;
+        }
+        array.push_back(std::move(archived));
+    }
+    return array;
+}
+
+TokenArray unarchivedTokenArray(const PropertyList& list) {
+    TokenArray tokens;
+    if (const PropertyArray* array = list.asArray()) {
+        for (const PropertyList& element : *array) {
+            if (auto token = TokenElement::unarchived(element)) {
+                tokens.push_back(std::move(*token));
+            }
+        }
+    }
+    return tokens;
+}
+
+} // namespace velmora

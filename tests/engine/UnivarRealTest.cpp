@@ -1,0 +1,266 @@
+#include "engine/UnivarTable.h"
+
+#include "platform/RandomSource.h"
+#include "tests/engine/TableValue.h"
+#include "tests/engine/UlpDistance.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <numbers>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace velmora {
+namespace {
+
+using enum UnivarType;
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+struct Case {
+    UnivarType function;
+    double input;
+    double value;
+};
+
+TEST(UnivarReal, agreesWithTheMathematicalValue) {
+    // Computed with arbitrary-precision arithmetic, 60 digits, for exactly these doubles.
+    struct Row {
+        UnivarType function;
+        std::vector<std::pair<double, double>> points; // input, value
+    };
+    // clang-format off
+    const Row rows[] = {
+        {Sine, {{1e-300, 1e-300}, {0.5, 0.479425538604203}, {3.141592653589793, 1.2246467991473532e-16},
+         {1e22, -0.8522008497671888}, {1.7e308, -0.5952560848632077}}},
+        {Cosine, {{1.5707963267948966, 6.123233995736766e-17}, {1e22, 0.523214785395139},
+         {-2.0, -0.4161468365471424}}},
+        {Tangent, {{1.5707963267948966, 1.633123935319537e16}, {1e-09, 1e-09},
+         {1000000000000000.0, -1.672414782127583}}},
+        {Cosecant, {{3.141592653589793, 8165619676597685.0}, {1e-200, 1e200}, {7.0, 1.5221010625637303}}},
+        {Secant, {{1.5707963267948966, 1.633123935319537e16}, {10.0, -1.1917935066878957}}},
+        {Cotangent, {{1.5707963267948966, 6.123233995736766e-17}, {1e-12, 1000000000000.0},
+         {-4.0, -0.8636911544506166}}},
+        {ArcSine, {{0.9999999999999999, 1.5707963118937354}, {1e-12, 1e-12}, {-0.7, -0.775397496610753}}},
+        {ArcCosine, {{0.9999999999999999, 1.4901161193847656e-08}, {-1.0, 3.141592653589793},
+         {1e-12, 1.5707963267938967}}},
+        {ArcTangent, {{1e308, 1.5707963267948966}, {1e-300, 1e-300}, {-0.4375, -0.4124104415973873}}},
+        {HyperbolicCosine, {{710.0, 1.1169973830808555e308}, {0.001, 1.0000005000000416},
+         {-3.0, 10.067661995777765}}},
+        {HyperbolicSine, {{1e-09, 1e-09}, {-710.0, -1.1169973830808555e308}, {0.3, 0.3045202934471426}}},
+        {HyperbolicTangent, {{1e-09, 1e-09}, {18.0, 0.9999999999999996}, {-0.5, -0.46211715726000974}}},
+        {HyperbolicCotangent, {{1e-09, 999999999.9999999}, {20.0, 1.0}, {-0.7, -1.6546216358026296}}},
+        {HyperbolicSecant, {{745.0, 5e-324}, {711.0, 3.293467350449585e-309},
+         {-100.0, 7.440151952041672e-44}, {1e-05, 0.99999999995}, {3.0, 0.0993279274194332}}},
+        {HyperbolicCosecant, {{745.0, 5e-324}, {-711.0, -3.293467350449585e-309},
+         {100.0, 7.440151952041672e-44}, {1e-09, 999999999.9999999}, {3.0, 0.09982156966882273}}},
+        {NaturalLogarithm, {{5e-324, -744.4400719213812}, {1.0000000000000002, 2.2204460492503128e-16},
+         {0.9999999999999999, -1.1102230246251565e-16}, {1.7e308, 709.7268368932282}}},
+        {CommonLogarithm, {{1.0000000000000002, 9.64327466553287e-17}, {5e-324, -323.3062153431158},
+         {2.0, 0.3010299956639812}, {1e308, 308.0}}},
+        {CubeRoot, {{5e-324, 1.7031839360032603e-108}, {-2.0, -1.2599210498948732},
+         {1e308, 4.641588833612779e102}}},
+        {Factorial, {{0.5, 0.886226925452758}, {127.3, 1.290496029888768e214},
+         {170.0, 7.257415615307999e306}, {170.5, 9.4833675668248e307}, {-0.999999, 999999.4227565685},
+         {-2.5, 2.363271801207355}, {63.7, 3.6379032013684386e88}}},
+        {Bell, {{0.0, 0.3989422804014327}, {1.5, 0.12951759566589172}, {-30.1, 7.300259384280611e-198},
+         {37.7, 9.36931787664013e-310}, {1e-200, 0.3989422804014327}}},
+        {CumulativeNormal, {{-1.0, 0.15865525393145705}, {-5.3, 5.790134039964594e-08},
+         {-20.7, 1.7318518790197378e-95}, {-37.1, 1.4047119663106221e-301}, {6.5, 0.99999999995984},
+         {1e-20, 0.5}}},
+        {ErrorFunction, {{1e-300, 1.1283791670955126e-300}, {0.5, 0.5204998778130465},
+         {-2.7, -0.9998656672600594}, {5.9, 0.9999999999999999}}},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        for (const auto& [input, value] : row.points) {
+            EXPECT_LE(ulpDistance(univarRow(row.function).real(input), value), 4)
+                << univarRow(row.function).token << input;
+        }
+    }
+}
+
+TEST(UnivarReal, isExactWhereUsersCheck) {
+    const Case cases[] = {
+        {AbsoluteValue, -3.5, 3.5},
+        {HyperbolicTangent, 1000, 1},
+        {HyperbolicTangent, -1000, -1},
+        {HyperbolicCotangent, 1000, 1},
+        {HyperbolicSecant, 1000, 0},
+        {HyperbolicCosecant, -1000, 0},
+        {HyperbolicCosine, 1000, kInfinity},
+        {HyperbolicSine, -1000, -kInfinity},
+        {CommonLogarithm, 1000, 3},
+        {CommonLogarithm, 1e-5, -5},
+        {NaturalLogarithm, 1, 0},
+        {NaturalLogarithm, 0, -kInfinity},
+        {CommonLogarithm, -0.0, -kInfinity},
+        {CubeRoot, -27, -3},
+        {CubeRoot, 1e-300, 1e-100},
+        {SquareRoot, 0, 0},
+        {Factorial, 4, 24},
+        {Negation, 2, -2},
+        {Round, 2.5, 3},
+        {Round, -2.5, -3},
+        {Round, 0.49999999999999994, 0},
+        {RoundUp, 2.5, 3},
+        {RoundUp, 2.4, 3},
+        {RoundUp, -2.5, -2},
+        {RoundUp, 3, 3},
+        {RoundDown, 2.5, 2},
+        {RoundDown, 2.6, 2},
+        {RoundDown, -2.4, -3},
+        {RoundDown, 2251799813685249.5, 2251799813685249},
+        {RealPart, -2, -2},
+        {ImaginaryPart, -2, 0},
+        {Conjugate, -2, -2},
+        {Argument, 5, 0},
+        {Argument, 0, 0},
+        {Argument, -0.0, 0},
+        {Argument, -5, std::numbers::pi},
+        {Argument, -kInfinity, std::numbers::pi},
+        {CumulativeNormal, 0, 0.5},
+        {CumulativeNormal, -kInfinity, 0},
+        {CumulativeNormal, kInfinity, 1},
+        {Bell, kInfinity, 0},
+        {SpeedOfSound, -273.15, 0},
+        {ToFraction, 0.333333, 1.0 / 3},
+        {ToMixedNumber, 2.666667, 8.0 / 3},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(tableValue(c.function, c.input), ComplexValue(c.value))
+            << univarRow(c.function).token << c.input;
+    }
+    for (int exponent = -307; exponent <= 308; ++exponent) { // log( of every power of ten is whole
+        const double power = std::stod("1e" + std::to_string(exponent));
+        EXPECT_EQ(univarRow(CommonLogarithm).real(power), exponent);
+    }
+}
+
+TEST(UnivarReal, isUndefinedOutsideItsDomain) {
+    const Case cases[] = {
+        {Cosecant, 0, kNaN},           {Cosecant, -0.0, kNaN},
+        {Cotangent, 0, kNaN},          {HyperbolicCotangent, 0, kNaN},
+        {HyperbolicCosecant, 0, kNaN}, {Sine, kInfinity, kNaN},
+        {Factorial, -3, kNaN},         {SpeedOfSound, -273.16, kNaN},
+        {SpeedOfSound, 1000001, kNaN}, {Random, kInfinity, kNaN},
+    };
+    for (const Case& c : cases) {
+        EXPECT_TRUE(isNaN(tableValue(c.function, c.input))) << univarRow(c.function).token << c.input;
+    }
+    for (int type = 1; type <= 41; ++type) {
+        const auto function = static_cast<UnivarType>(type);
+        if (function == UserDefined) {
+            continue; // its rule is the user's own equation
+        }
+        const ComplexValue value = tableValue(function, undefinedValue());
+        EXPECT_TRUE(std::isnan(value.real())) << univarRow(function).token;
+        EXPECT_EQ(value.imag(), 0) << univarRow(function).token;
+    }
+}
+
+TEST(UnivarReal, isExactAtQuarterTurnsInDegrees) {
+    struct Row {
+        UnivarType function;
+        double at[4]; // 0°, 90°, 180°, 270°
+    };
+    const Row rows[] = {
+        {Sine, {0, 1, 0, -1}},           {Cosine, {1, 0, -1, 0}},       {Tangent, {0, kNaN, 0, kNaN}},
+        {Cosecant, {kNaN, 1, kNaN, -1}}, {Secant, {1, kNaN, -1, kNaN}}, {Cotangent, {kNaN, 0, kNaN, 0}},
+    };
+    for (const Row& row : rows) {
+        for (int quarter = 0; quarter < 4; ++quarter) {
+            for (const double turns : {0.0, -1.0, -7.0, 3.0, 1e12}) {
+                const double degrees = 90 * quarter + 360 * turns;
+                const double value = univarRow(row.function).realInDegrees(degrees);
+                EXPECT_EQ(ulpDistance(value, row.at[quarter]), 0) << univarRow(row.function).token << degrees;
+            }
+        }
+    }
+}
+
+TEST(UnivarReal, convertsAnglesInDegrees) {
+    const Case cases[] = {
+        {Sine, 30, 0.5},
+        {Cosine, 60, 0.5},
+        {Tangent, 45, 1},
+        {Cosecant, 30, 2},
+        {Secant, 60, 2},
+        {Cotangent, 45, 1},
+        {ArcSine, 1, 90},
+        {ArcSine, 0.5, 30},
+        {ArcSine, -0.5, -30},
+        {ArcCosine, 0.5, 60},
+        {ArcCosine, -1, 180},
+        {ArcTangent, 1, 45},
+        {ArcTangent, kInfinity, 90},
+    };
+    for (const Case& c : cases) {
+        const double value = univarRow(c.function).realInDegrees(c.input);
+        EXPECT_LE(ulpDistance(value, c.value), univarRow(c.function).angle == AngleUse::Given ? 0 : 4)
+            << univarRow(c.function).token << c.input;
+    }
+    for (int type = 0; type <= 41; ++type) {
+        const UnivarRow& row = univarRow(static_cast<UnivarType>(type));
+        EXPECT_EQ(row.angle != AngleUse::None, row.realInDegrees != nullptr) << row.token;
+    }
+}
+
+TEST(UnivarReal, drawsRandomNumbersBelowTheBound) {
+    std::uint32_t next = 0;
+    const RandomSourceScope scope([&next] { return next; });
+    struct Row {
+        double bound;
+        std::uint32_t drawn;
+        double value;
+    };
+    const Row rows[] = {
+        {0, 7, 0},      {0.4, 7, 0},
+        {6, 7, 1},      {-6, 11, 5},
+        {5.5, 11, 5}, // 5.5 rounds to 6
+        {1, 123456, 0}, {1e15, 4294967295U, 4294967295.0},
+    };
+    for (const Row& row : rows) {
+        next = row.drawn;
+        EXPECT_EQ(univarRow(Random).real(row.bound), row.value) << row.bound;
+    }
+}
+
+TEST(UnivarTokens, selectTheirType) {
+    struct Row {
+        const char* token;
+        int type;
+        const char* name;
+    };
+    // Written out, for saved files depend on the numbers.
+    // clang-format off
+    const Row rows[] = {
+        {"abs(", 1, "abs"}, {"sin(", 2, "sin"}, {"cos(", 3, "cos"}, {"tan(", 4, "tan"}, {"asin(", 5, "??"},
+        {"acos(", 6, "??"}, {"atan(", 7, "??"}, {"csc(", 8, "csc"}, {"sec(", 9, "sec"}, {"cot(", 10, "cot"},
+        {"cosh(", 11, "??"}, {"sinh(", 12, "??"}, {"tanh(", 13, "??"}, {"coth(", 14, "??"},
+        {"sech(", 15, "??"}, {"csch(", 16, "??"}, {"ln(", 17, "ln"}, {"log(", 18, "log10"},
+        {"cbrt(", 19, "cbrt"}, {"sqrt(", 20, "sqrt"}, {"fact(", 21, "fact"}, {"N", 22, "N"},
+        {"rand(", 23, "rand"}, {"round(", 24, "round"}, {"cSoundInAir(", 25, "??"}, {"ISATemp(", 26, "??"},
+        {"ISAPressure(", 27, "??"}, {"ISADensitySlugsFt3(", 28, "??"}, {"ISADensityKgM3(", 29, "??"},
+        {"bell(", 30, "??"}, {"cumNormDist(", 31, "??"}, {"toFraction(", 33, "toFraction"},
+        {"toMixedNumber(", 34, "??"}, {"roundUp(", 35, "??"}, {"roundDown(", 36, "??"}, {"Re(", 37, "??"},
+        {"re(", 37, "??"}, {"Im(", 38, "??"}, {"im(", 38, "??"}, {"conj(", 39, "??"}, {"arg(", 40, "??"},
+        {"erf(", 41, "??"},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        const UnivarType type = univarTypeWithToken(row.token);
+        EXPECT_EQ(static_cast<int>(type), row.type) << row.token;
+        EXPECT_EQ(univarRow(type).name, row.name) << row.token;
+    }
+    for (const char* other : {"", "(", "x", "sin", "sin(x", "SIN(", "θ", "y1(", "n", "NN", "N(", "ISATemp",
+                              "@k1", "ISADensitySlugsFt3", "+", "gcd("}) {
+        EXPECT_EQ(univarTypeWithToken(other), NoFunction) << other;
+    }
+}
+
+} // namespace
+} // namespace velmora
