@@ -85,16 +85,6 @@ ComplexValue BivarFunction::valueWithComplex(ComplexValue a, ComplexValue b) con
     } else if (isNaN(a) || isNaN(b)) {
         return undefinedValue();
     }
-    switch (m_type) {
-    case BivarType::Add:
-        return a + b;
-    case BivarType::Subtract:
-        return a - b;
-    case BivarType::Multiply:
-        return a * b;
-    default:
-        break;
-    }
     if (m_row->complex != nullptr) {
         return m_row->complex(a, b);
     }
@@ -120,6 +110,9 @@ ComplexValue BivarFunction::complexValue(ComplexEvaluation& evaluation) const {
 }
 
 void BivarFunction::describeToProgram(RealProgramBuilder& builder) const {
+    if (m_type == BivarType::NthRoot && builder.appendRoot(*m_input1, *m_input2)) {
+        return;
+    }
     builder.append(*m_input1);
     builder.appendOperation(m_type, *m_row, *m_input2);
 }

@@ -6,24 +6,24 @@ namespace velmora {
 
 namespace {
 
-// Out of line, for the curves of a graph rarely come here.
+// Both out of line, for the curves of a graph rarely come here.
 [[gnu::noinline]] ComplexValue evaluateTree(const Expression& tree, const VariableValues& variables,
-                                            EvaluationBudget& budget) {
-    if (budget.isSpent()) {
+                                            EvaluationBudget* budget) {
+    if (budget != nullptr && budget->isSpent()) {
         return undefinedValue();
     }
-    ComplexEvaluation evaluation{.variables = variables, .budget = budget, .shared = {}};
-    return complexOf(tree, evaluation);
+    GeneralEvaluation general(variables, budget);
+    return complexOf(tree, general.evaluation);
 }
 
 [[gnu::noinline]] ComplexValue evaluateTreeAt(const Expression& tree, ComplexValue z,
-                                              EvaluationBudget& budget) {
+                                              EvaluationBudget* budget) {
     return evaluateTree(tree, {.byType = {z, z, z}}, budget);
 }
 
 } // namespace
 
-ComplexValue evaluate(const Expression& tree, const VariableValues& variables, EvaluationBudget& budget) {
+ComplexValue evaluate(const Expression& tree, const VariableValues& variables, EvaluationBudget* budget) {
     const auto& [x, y, none] = variables.byType;
     // A value without variables is asked for once a line, which a program would not be worth.
     if (variables.areGiven && isReal(x) && isReal(y)) {
@@ -36,15 +36,14 @@ ComplexValue evaluate(const Expression& tree, const VariableValues& variables, E
     return evaluateTree(tree, variables, budget);
 }
 
-ComplexValue evaluateAt(const Expression& tree, ComplexValue z, EvaluationBudget& budget) {
-    if (isReal(z)) {
-        RealProgram::Run run(z.real(), z.real(), z.real(), false, budget);
-        const double value = tree.realProgram().value(run);
-        if (!run.leftReals) {
-            return {value, 0.0};
-        }
-    }
-    return evaluateTreeAt(tree, z, budget);
+ComplexValue evaluateAt(const Expression& tree, ComplexValue z, EvaluationBudget* budget) {
+    return isReal(z) ? evaluateAtReal(tree, z.real(), budget) : evaluateTreeAt(tree, z, budget);
+}
+
+ComplexValue evaluateAtReal(const Expression& tree, double x, EvaluationBudget* budget) {
+    RealProgram::Run run(x, x, x, false, budget);
+    const double value = tree.realProgram().value(run);
+    return run.leftReals ? evaluateTreeAt(tree, x, budget) : ComplexValue(value, 0.0);
 }
 
 } // namespace velmora

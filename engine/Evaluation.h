@@ -75,17 +75,25 @@ struct ComplexEvaluation {
 
 /// The same together with the variables it stands for.
 struct GeneralEvaluation {
-    GeneralEvaluation(VariableValues values, EvaluationBudget& budget)
-        : variables(std::move(values)), evaluation{.variables = variables, .budget = budget, .shared = {}} {}
+    /// Without a budget to draw on it has one of its own.
+    GeneralEvaluation(const VariableValues& values, EvaluationBudget* budget)
+        : variables(values), evaluation{.variables = variables,
+                                        .budget = budget != nullptr ? *budget : ownBudget,
+                                        .shared = {}} {}
+    GeneralEvaluation(const GeneralEvaluation&) = delete;
+    GeneralEvaluation& operator=(const GeneralEvaluation&) = delete;
 
     VariableValues variables;
+    EvaluationBudget ownBudget;
     ComplexEvaluation evaluation;
 };
 
-/// The value of a tree for these variables: real if it can be, else complex.
-ComplexValue evaluate(const Expression& tree, const VariableValues& variables, EvaluationBudget& budget);
+/// The value of a tree for these variables: real if it can be, else complex. The budget is that of the
+/// evaluation this one is part of, or null.
+ComplexValue evaluate(const Expression& tree, const VariableValues& variables, EvaluationBudget* budget);
 /// The same with every variable at z, as a curve asks for it.
-ComplexValue evaluateAt(const Expression& tree, ComplexValue z, EvaluationBudget& budget);
+ComplexValue evaluateAt(const Expression& tree, ComplexValue z, EvaluationBudget* budget);
+ComplexValue evaluateAtReal(const Expression& tree, double x, EvaluationBudget* budget);
 
 /// The value of a node within an evaluation. Leaves are read in line, for most nodes of a line are leaves.
 inline ComplexValue complexOf(const Expression& node, ComplexEvaluation& evaluation) {

@@ -28,19 +28,16 @@ Expression::Expression() = default;
 Expression::~Expression() = default;
 
 ComplexValue Expression::value() const {
-    EvaluationBudget budget;
     const ComplexValue none = undefinedValue();
-    return evaluate(*this, {.byType = {none, none, none}, .areGiven = false}, budget);
+    return evaluate(*this, {.byType = {none, none, none}, .areGiven = false}, nullptr);
 }
 
 ComplexValue Expression::valueWithVariableValue(ComplexValue z) const {
-    EvaluationBudget budget;
-    return evaluateAt(*this, z, budget);
+    return evaluateAt(*this, z, nullptr);
 }
 
 ComplexValue Expression::valueWithVariableValues(ComplexValue x, ComplexValue y) const {
-    EvaluationBudget budget;
-    return evaluate(*this, {.byType = {x, y, undefinedValue()}, .areTwo = true}, budget);
+    return evaluate(*this, {.byType = {x, y, undefinedValue()}, .areTwo = true}, nullptr);
 }
 
 double Expression::roundedRealValueWithVariableValue(ComplexValue z) const {

@@ -1,6 +1,8 @@
 #include "engine/RealProgram.h"
 
 #include "engine/BivarTable.h"
+#include "engine/Environment.h"
+#include "engine/Roots.h"
 #include "engine/UnivarFunction.h"
 #include "engine/UnivarTable.h"
 
@@ -16,31 +18,24 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 // Lines that people type need a few places; only machine-made ones need more than these.
 constexpr std::size_t kUsualStackDepth = 32;
 
+// The roots that people write as x^(1/2) and x^(1/3), without the cost of finding out which root it is.
+double secondRoot(double radicand) { return nthRoot(2, radicand); }
+double thirdRoot(double radicand) { return nthRoot(3, radicand); }
+
 } // namespace
+
+void RealProgram::GeneralEvaluationDeleter::operator()(GeneralEvaluation* general) const { delete general; }
 
 RealProgram::RealProgram(const Expression& tree) {
     RealProgramBuilder builder(*this);
     builder.append(tree);
 }
 
-double RealProgram::value(Run& run) const {
-    if (m_stackDepth > kUsualStackDepth) {
-        return valueOnLargeStack(run);
-    }
-    std::array<double, kUsualStackDepth> stack; // NOLINT: every place is written before it is read
-    return valueOnStack(run, stack.data());
-}
-
-double RealProgram::valueOnLargeStack(Run& run) const {
-    std::vector<double> stack(m_stackDepth);
-    return valueOnStack(run, stack.data());
-}
-
 double RealProgram::valueOfNode(const Expression& node, Run& run) {
     if (run.general == nullptr) {
         const auto& [x, y, none] = run.variable;
-        run.general = std::make_unique<GeneralEvaluation>(
-            VariableValues{.byType = {x, y, none}, .areGiven = true, .areTwo = run.areTwo}, run.budget);
+        run.general.reset(new GeneralEvaluation(
+            VariableValues{.byType = {x, y, none}, .areGiven = true, .areTwo = run.areTwo}, run.budget));
     }
     const ComplexValue value = complexOf(node, run.general->evaluation);
     run.leftReals = run.leftReals || !isReal(value);
@@ -58,7 +53,7 @@ double RealProgram::valueOfTwoInputs(const BivarRow& row, double a, double b, Ru
 }
 
 // The value on top of the stack stays in a register; `below` points past the values under it.
-double RealProgram::valueOnStack(Run& run, double* below) const {
+[[gnu::always_inline]] inline double RealProgram::valueOnStack(Run& run, double* below) const {
     double top = 0;
     for (const Step& step : m_steps) {
         switch (step.operation) {
@@ -121,6 +116,17 @@ double RealProgram::valueOnStack(Run& run, double* below) const {
         case Operation::Function:
             top = step.function(top);
             break;
+        case Operation::FunctionOfAngle: {
+            const bool isInDegrees = Environment::current().angleMode() == AngleMode::Degrees;
+            top = isInDegrees ? step.univar->realInDegrees(top) : step.univar->real(top);
+            break;
+        }
+        case Operation::FunctionOnDomain:
+            if (!step.univar->realDomain.contains(top)) {
+                run.leftReals = true;
+            }
+            top = step.univar->real(top);
+            break;
         case Operation::OneInput:
             top = valueOfOneInput(*step.univar, top, run);
             break;
@@ -135,6 +141,19 @@ double RealProgram::valueOnStack(Run& run, double* below) const {
         }
     }
     return top;
+}
+
+double RealProgram::value(Run& run) const {
+    if (m_stackDepth > kUsualStackDepth) {
+        return valueOnLargeStack(run);
+    }
+    std::array<double, kUsualStackDepth> stack; // NOLINT: every place is written before it is read
+    return valueOnStack(run, stack.data());
+}
+
+double RealProgram::valueOnLargeStack(Run& run) const {
+    std::vector<double> stack(m_stackDepth);
+    return valueOnStack(run, stack.data());
 }
 
 void RealProgramBuilder::push(RealProgram::Step step) {
@@ -232,14 +251,28 @@ void RealProgramBuilder::appendOperation(BivarType type, const BivarRow& row, co
     }
 }
 
+bool RealProgramBuilder::appendRoot(const Expression& degree, const Expression& radicand) {
+    const double number = degree.leaf() == Expression::Leaf::RealConstant ? degree.constant().real() : 0;
+    if (number != 2 && number != 3) {
+        return false;
+    }
+    append(radicand);
+    push(RealProgram::Step(Operation::Function, number == 2 ? secondRoot : thirdRoot));
+    return true;
+}
+
 void RealProgramBuilder::appendFunction(const UnivarRow& row) {
     const RealInterval everywhere;
-    const bool isPlain = row.angle == AngleUse::None && row.realDomain.lowest == everywhere.lowest &&
-                         row.realDomain.highest == everywhere.highest;
+    const bool holdsEverywhere =
+        row.realDomain.lowest == everywhere.lowest && row.realDomain.highest == everywhere.highest;
     if (row.type == UnivarType::Negation) {
         push(RealProgram::Step(Operation::Negate));
-    } else if (isPlain) {
+    } else if (row.angle == AngleUse::None && holdsEverywhere) {
         push(RealProgram::Step(Operation::Function, row.real));
+    } else if (row.angle == AngleUse::None) {
+        push(RealProgram::Step(Operation::FunctionOnDomain, row));
+    } else if (row.angle == AngleUse::Taken && holdsEverywhere) {
+        push(RealProgram::Step(Operation::FunctionOfAngle, row));
     } else {
         push(RealProgram::Step(Operation::OneInput, row));
     }

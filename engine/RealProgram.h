@@ -21,16 +21,22 @@ class RealProgram {
 public:
     explicit RealProgram(const Expression& tree);
 
+    /// Frees out of line what few evaluations need, so that the others stay short.
+    struct GeneralEvaluationDeleter {
+        [[gnu::noinline]] void operator()(GeneralEvaluation* general) const;
+    };
+
     /// One evaluation: the variables by type, and whether a value had to leave the reals.
     struct Run {
-        Run(double x, double y, double none, bool two, EvaluationBudget& within)
-            : variable{x, y, none}, budget(within), areTwo(two) {}
+        Run(double x, double y, double none, bool two, EvaluationBudget* within = nullptr)
+            : variable{x, y, none}, areTwo(two), budget(within) {}
 
         std::array<double, 3> variable;
-        EvaluationBudget& budget;
         bool areTwo;
         bool leftReals = false;
-        std::unique_ptr<GeneralEvaluation> general; ///< made for the first node without a step of its own
+        EvaluationBudget* budget; ///< null for an evaluation that is not part of another
+        std::unique_ptr<GeneralEvaluation, GeneralEvaluationDeleter>
+            general; ///< made for the first node without a step of its own
     };
 
     double value(Run& run) const;
@@ -56,10 +62,12 @@ private:
         Square,
         Cube,
         Negate,
-        Function,  ///< a real rule that holds everywhere and knows no angle
-        OneInput,  ///< a function with a domain or an angle
-        TwoInputs, ///< a function of the table
-        OtherNode, ///< a node without a step of its own
+        Function,         ///< a real rule that holds everywhere and knows no angle
+        FunctionOfAngle,  ///< one that takes an angle and holds everywhere
+        FunctionOnDomain, ///< one that knows no angle
+        OneInput,         ///< any other function of one input
+        TwoInputs,        ///< a function of two inputs
+        OtherNode,        ///< a node without a step of its own
     };
 
     struct Step {
@@ -105,6 +113,9 @@ public:
     void append(const Expression& node);
     /// Applies an operation to what was appended last, on the left, and a node on the right.
     void appendOperation(BivarType type, const BivarRow& row, const Expression& right);
+    /// Applies a square or cube root written with a fixed degree; false, and nothing done, for another
+    /// degree.
+    bool appendRoot(const Expression& degree, const Expression& radicand);
     /// Applies a function to what was appended last.
     void appendFunction(const UnivarRow& row);
     /// Has the node evaluate itself.

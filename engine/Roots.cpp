@@ -39,11 +39,10 @@ double cubeRoot(double a) {
         return root;
     }
     // The C library's root may be off by some last digits; one step of Newton's method, its residual
-    // root³ − a formed exactly, mends that at a fraction of the cost of a wider type.
-    const double square = root * root;
-    const double squareError = std::fma(root, root, -square);
-    const double residual = std::fma(square, root, -a) + squareError * root;
-    return root - residual / (3 * square);
+    // formed in extended precision, mends that at a fraction of the cost of an extended root.
+    const Extended wide = root;
+    const auto residual = static_cast<double>(wide * wide * wide - a);
+    return root - residual / (3 * root * root);
 }
 
 ComplexValue complexCubeRoot(ComplexValue z) {
@@ -54,6 +53,9 @@ ComplexValue complexCubeRoot(ComplexValue z) {
 }
 
 double nthRoot(double degree, double radicand) {
+    if (degree == 3) {
+        return radicand == 0 ? kNaN : cubeRoot(radicand);
+    }
     if (radicand == 0 || degree == 0 || std::isnan(radicand) || std::isnan(degree)) {
         return kNaN;
     }

@@ -13,7 +13,7 @@ ComplexValue valueOfEquation(const Expression* equation, ComplexValue z, Evaluat
     if (equation == nullptr || !budget.call(*equation)) {
         return undefinedValue();
     }
-    const ComplexValue value = evaluateAt(*equation, z, budget);
+    const ComplexValue value = evaluateAt(*equation, z, &budget);
     budget.returnFrom(*equation);
     return value;
 }
