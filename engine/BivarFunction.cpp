@@ -17,13 +17,14 @@ bool isReal(const BivarRow& row, double a, double b) {
 
 } // namespace
 
-BivarFunction::BivarFunction(BivarType function) : m_row(&bivarRow(function)), m_type(function) {
+BivarFunction::BivarFunction(BivarType function)
+    : Expression(Kind::TwoInputs), m_row(&bivarRow(function)), m_type(function) {
     refreshTraits();
 }
 
 BivarFunction::BivarFunction(BivarType function, std::unique_ptr<Expression> input1,
                              std::unique_ptr<Expression> input2)
-    : m_row(&bivarRow(function)), m_type(function) {
+    : Expression(Kind::TwoInputs), m_row(&bivarRow(function)), m_type(function) {
     setInputs(std::move(input1), std::move(input2));
 }
 
@@ -95,8 +96,11 @@ ComplexValue BivarFunction::valueWithComplex(ComplexValue a, ComplexValue b) con
 }
 
 std::unique_ptr<Expression> BivarFunction::checkForFractionalPower(std::unique_ptr<BivarFunction> power) {
-    auto* quotient = dynamic_cast<BivarFunction*>(power->m_input2.get());
-    if (power->m_type != BivarType::Power || quotient == nullptr || quotient->m_type != BivarType::Divide) {
+    if (power->m_input2 == nullptr || power->m_input2->kind() != Kind::TwoInputs) {
+        return power;
+    }
+    auto* quotient = static_cast<BivarFunction*>(power->m_input2.get());
+    if (power->m_type != BivarType::Power || quotient->m_type != BivarType::Divide) {
         return power;
     }
     auto root = std::make_unique<BivarFunction>(BivarType::NthRoot, std::move(quotient->m_input2),

@@ -23,7 +23,7 @@ const ComplexValue kNoValue{std::numeric_limits<double>::quiet_NaN(),
 
 } // namespace
 
-Expression::Expression() = default;
+Expression::Expression(Kind kind) : m_kind(kind) {}
 
 Expression::~Expression() = default;
 

@@ -101,6 +101,10 @@ public:
     virtual bool refersTo(DependenceSearch& search) const;
     virtual void describe(DescriptionWriter& writer) const = 0;
 
+    /// What the parser has to tell apart at every node, faster than the language's own type queries.
+    enum class Kind : std::uint8_t { Leaf, OneInput, TwoInputs, ThreeInputs, RightParen, Comma };
+    Kind kind() const { return m_kind; }
+
     /// How a parent may read the node without a call.
     enum class Leaf : std::uint8_t { None, RealConstant, ComplexConstant, Variable };
     Leaf leaf() const { return m_leaf; }
@@ -114,7 +118,7 @@ public:
     bool holdsRecursion() const { return m_holdsRecursion; }
 
 protected:
-    Expression();
+    explicit Expression(Kind kind = Kind::Leaf);
 
     /// Takes over what a parent inherits from an input: height, size, first error, graphability. A
     /// missing input or a grouping mark in its place makes the node unreadable.
@@ -129,6 +133,7 @@ protected:
     std::uint32_t m_height = 1;
     std::uint32_t m_size = 1;
     Leaf m_leaf = Leaf::None;
+    Kind m_kind;
     std::uint8_t m_variableIndex = 0;
     bool m_isGraphable = true;
     bool m_holdsRecursion = false;

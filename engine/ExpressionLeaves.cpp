@@ -193,8 +193,8 @@ Leaves leavesOfTokens(std::span<const TokenElement> tokens) {
         } else if (isSingleCharacter(element, '-') &&
                    (leaves.nodes.empty() || !leaves.nodes.back()->canBeFollowedBySubtraction())) {
             node = std::make_unique<UnivarFunction>(UnivarType::Negation);
-        } else if (auto expression = element.expression()) {
-            node = nodeOfExpression(std::move(expression));
+        } else if (const auto* expression = element.expression()) {
+            node = nodeOfExpression(*expression);
         } else {
             node = Expression::newExpressionWithToken(element);
         }

@@ -58,52 +58,56 @@ std::optional<std::string_view> closeGroup(ExpressionArray& nodes, std::size_t o
                                            CommaPositions commas) {
     const std::size_t begin = opener + 1;
     const std::size_t end = nodes.size();
-    Node group;
-    if (auto* function = dynamic_cast<UnivarFunction*>(nodes[opener].get())) {
-        function->setInput(parsedContents(takeRange(nodes, begin, end)));
-        group = std::move(nodes[opener]);
-    } else if (auto* binary = dynamic_cast<BivarFunction*>(nodes[opener].get())) {
+    Node group = std::move(nodes[opener]);
+    switch (group->kind()) {
+    case Expression::Kind::OneInput:
+        static_cast<UnivarFunction&>(*group).setInput(parsedContents(takeRange(nodes, begin, end)));
+        break;
+    case Expression::Kind::TwoInputs: {
         if (!commas.nearest) {
             return kMissingCommaError;
         }
-        const std::size_t comma = *commas.nearest;
-        Node first = parsedContents(takeRange(nodes, begin, comma));
-        binary->setInputs(std::move(first), parsedContents(takeRange(nodes, comma + 1, end)));
-        group = std::move(nodes[opener]);
-    } else if (auto* conditional = dynamic_cast<TriFunction*>(nodes[opener].get())) {
+        Node first = parsedContents(takeRange(nodes, begin, *commas.nearest));
+        Node second = parsedContents(takeRange(nodes, *commas.nearest + 1, end));
+        static_cast<BivarFunction&>(*group).setInputs(std::move(first), std::move(second));
+        break;
+    }
+    case Expression::Kind::ThreeInputs: {
         if (!commas.nearest || commas.nearest == commas.farthest) {
             return kMissingCommaError;
         }
         Node first = parsedContents(takeRange(nodes, begin, *commas.farthest));
         Node second = parsedContents(takeRange(nodes, *commas.farthest + 1, *commas.nearest));
-        conditional->setInputs(std::move(first), std::move(second),
-                               parsedContents(takeRange(nodes, *commas.nearest + 1, end)));
-        group = std::move(nodes[opener]);
-    } else {
+        Node third = parsedContents(takeRange(nodes, *commas.nearest + 1, end));
+        static_cast<TriFunction&>(*group).setInputs(std::move(first), std::move(second), std::move(third));
+        break;
+    }
+    default: // a plain parenthesis leaves its contents in its place
         group = parsedContents(takeRange(nodes, begin, end));
+        break;
     }
     nodes.resize(begin);
     nodes[opener] = limited(std::move(group));
     return std::nullopt;
 }
 
-bool isLackingInput(const Expression& node, BivarType type) {
-    const auto* operation = dynamic_cast<const BivarFunction*>(&node);
-    return operation != nullptr && operation->function() == type &&
-           (operation->input1() == nullptr || operation->input2() == nullptr);
+/// An operator of one of the two types that still lacks an input, or null.
+BivarFunction* operatorLackingInput(Expression& node, BivarType one, BivarType other) {
+    if (node.kind() != Expression::Kind::TwoInputs) {
+        return nullptr;
+    }
+    auto& operation = static_cast<BivarFunction&>(node);
+    const bool isSought = operation.function() == one || operation.function() == other;
+    const bool lacks = operation.input1() == nullptr || operation.input2() == nullptr;
+    return isSought && lacks ? &operation : nullptr;
 }
 
 UnivarFunction* negationLackingInput(Expression& node) {
-    auto* function = dynamic_cast<UnivarFunction*>(&node);
-    const bool lacks =
-        function != nullptr && function->function() == UnivarType::Negation && function->input() == nullptr;
-    return lacks ? function : nullptr;
-}
-
-/// An operator of one precedence that still lacks an input, or null.
-BivarFunction* operatorLackingInput(Expression& node, BivarType one, BivarType other) {
-    return isLackingInput(node, one) || isLackingInput(node, other) ? static_cast<BivarFunction*>(&node)
-                                                                    : nullptr;
+    if (node.kind() != Expression::Kind::OneInput) {
+        return nullptr;
+    }
+    auto& function = static_cast<UnivarFunction&>(node);
+    return function.function() == UnivarType::Negation && function.input() == nullptr ? &function : nullptr;
 }
 
 /// One scan, left to right, in which the operators of one precedence take their neighbours.
@@ -150,7 +154,7 @@ std::unique_ptr<Expression> Expression::newExpressionNextStepParens(ExpressionAr
     ExpressionArray result;
     result.reserve(nodes.size());
     for (Node& node : nodes) {
-        if (dynamic_cast<const RightParen*>(node.get()) == nullptr) {
+        if (node->kind() != Kind::RightParen) {
             result.push_back(std::move(node));
             continue;
         }
@@ -158,7 +162,7 @@ std::unique_ptr<Expression> Expression::newExpressionNextStepParens(ExpressionAr
         std::size_t opener = result.size();
         while (opener > 0 && !result[opener - 1]->needsToBePairedWithARightParen()) {
             --opener;
-            if (dynamic_cast<const Comma*>(result[opener].get()) != nullptr) {
+            if (result[opener]->kind() == Kind::Comma) {
                 commas.farthest = opener;
                 commas.nearest = commas.nearest.value_or(opener);
             }
@@ -189,7 +193,7 @@ std::unique_ptr<Expression> Expression::newExpressionNextStepExponentsAndNegatio
     while (!nodes.empty()) {
         Node node = popBack(nodes);
         if (!nodes.empty()) {
-            if (isLackingInput(*node, BivarType::Power)) {
+            if (operatorLackingInput(*node, BivarType::Power, BivarType::Power) != nullptr) {
                 std::unique_ptr<BivarFunction> power(static_cast<BivarFunction*>(node.release()));
                 if (power->input2() == nullptr) {
                     power->setInput2(popBack(passed));

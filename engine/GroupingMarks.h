@@ -16,6 +16,7 @@ public:
 
 class RightParen final : public Expression {
 public:
+    RightParen() : Expression(Kind::RightParen) {}
     bool canBePrecededByImpliedMultiplication() const override { return false; }
     bool canBeFollowedByImpliedMultiplication() const override { return true; }
     bool isMark() const override { return true; }
@@ -24,6 +25,7 @@ public:
 
 class Comma final : public Expression {
 public:
+    Comma() : Expression(Kind::Comma) {}
     bool canBePrecededByImpliedMultiplication() const override { return false; }
     bool canBeFollowedBySubtraction() const override { return false; }
     bool isMark() const override { return true; }

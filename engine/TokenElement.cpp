@@ -24,10 +24,14 @@ template <typename Object> PropertyList archivedObject(const Object& object, con
 
 } // namespace
 
-std::shared_ptr<const Expression> TokenElement::expression() const {
-    const auto* expression = std::get_if<std::shared_ptr<const Expression>>(&m_element);
-    return expression != nullptr ? *expression : nullptr;
+namespace {
+
+std::shared_ptr<const Number> numberOf(const TokenElement& element) {
+    const auto* expression = element.expression();
+    return expression != nullptr ? std::dynamic_pointer_cast<const Number>(*expression) : nullptr;
 }
+
+} // namespace
 
 std::string TokenElement::toDisplayString() const {
     if (const Token* known = token()) {
@@ -39,7 +43,7 @@ std::string TokenElement::toDisplayString() const {
     if (const std::string* plain = text()) {
         return velmora::toDisplayString(*plain);
     }
-    const auto number = std::dynamic_pointer_cast<const Number>(expression());
+    const auto number = numberOf(*this);
     return number != nullptr ? number->toDisplayString() : std::string();
 }
 
@@ -53,7 +57,7 @@ PropertyList TokenElement::archived() const {
     if (const std::string* plain = text()) {
         return *plain;
     }
-    const auto number = std::dynamic_pointer_cast<const Number>(expression());
+    const auto number = numberOf(*this);
     return number != nullptr ? archivedObject(*number, kNumberKind) : PropertyList();
 }
 

@@ -24,8 +24,10 @@ public:
 
     const Token* token() const { return std::get_if<Token>(&m_element); }
     const NamedExpression* namedExpression() const { return std::get_if<NamedExpression>(&m_element); }
-    /// The finished expression, or null when the element is of another kind.
-    std::shared_ptr<const Expression> expression() const;
+    /// The finished expression; null when the element is of another kind.
+    const std::shared_ptr<const Expression>* expression() const {
+        return std::get_if<std::shared_ptr<const Expression>>(&m_element);
+    }
     const std::string* text() const { return std::get_if<std::string>(&m_element); }
 
     /// Tokens, named expressions, numbers and texts have one; other expressions show nothing.

@@ -11,7 +11,8 @@
 namespace velmora {
 
 TriFunction::TriFunction(std::unique_ptr<const Expression> input1, std::unique_ptr<const Expression> input2,
-                         std::unique_ptr<const Expression> input3) {
+                         std::unique_ptr<const Expression> input3)
+    : Expression(Kind::ThreeInputs) {
     setInputs(std::move(input1), std::move(input2), std::move(input3));
 }
 

@@ -11,7 +11,7 @@ namespace velmora {
 /// Undefined without a variable; of two variables it looks at the first.
 class TriFunction final : public Expression {
 public:
-    TriFunction() { adoptTraits(nullptr); }
+    TriFunction() : Expression(Kind::ThreeInputs) { adoptTraits(nullptr); }
     TriFunction(std::unique_ptr<const Expression> input1, std::unique_ptr<const Expression> input2,
                 std::unique_ptr<const Expression> input3);
 

@@ -35,10 +35,13 @@ double univarRealRule(const UnivarRow& row, double a) {
     return isInDegrees(row) ? row.realInDegrees(a) : row.real(a);
 }
 
-UnivarFunction::UnivarFunction(UnivarType function) : m_row(&univarRow(function)) { adoptTraits(nullptr); }
+UnivarFunction::UnivarFunction(UnivarType function)
+    : Expression(Kind::OneInput), m_row(&univarRow(function)) {
+    adoptTraits(nullptr);
+}
 
 UnivarFunction::UnivarFunction(UnivarType function, std::unique_ptr<const Expression> input)
-    : m_row(&univarRow(function)) {
+    : Expression(Kind::OneInput), m_row(&univarRow(function)) {
     setInput(std::move(input));
 }
 
