@@ -1,0 +1,11 @@
+#include "calculator/Assertion.h"
+
+#include "platform/Log.h"
+
+#include <string>
+
+namespace velmora {
+
+void assertionFailure(std::string_view text) { log("Assertion failure: " + std::string(text)); }
+
+} // namespace velmora

@@ -1,0 +1,41 @@
+#include "calculator/DisplayHistoryCell.h"
+
+#include "calculator/DisplayHistoryTableViewController.h"
+#include "platform/NotificationCentre.h"
+
+namespace velmora {
+
+namespace {
+
+constexpr double kSideMargin = 10;
+constexpr double kFontSizePerHeight = 15.0 / 38.0;
+
+} // namespace
+
+void DisplayHistoryCell::setTexts(std::string input, std::string output) {
+    m_inputLabel.text = std::move(input);
+    m_outputLabel.text = std::move(output);
+}
+
+void DisplayHistoryCell::layout(Size size) {
+    const double halfHeight = size.height / 2;
+    const double labelWidth = size.width - 2 * kSideMargin;
+    m_inputLabel.frame = {kSideMargin, 0, labelWidth, halfHeight};
+    m_outputLabel.frame = {kSideMargin, halfHeight, labelWidth, halfHeight};
+    m_outputLabel.alignment = TextAlignment::Right;
+    for (LabelRecord* label : {&m_inputLabel, &m_outputLabel}) {
+        label->fontSize = size.height * kFontSizePerHeight;
+        label->textColor = Color::white(1);
+    }
+    const double quarter = size.width / 4;
+    const double rightWidth = quarter * static_cast<double>(m_rightButtonWidthMultiplier);
+    m_leftButtonFrame = {0, 0, quarter, size.height};
+    m_rightButtonFrame = {size.width - rightWidth, 0, rightWidth, size.height};
+}
+
+void DisplayHistoryCell::buttonPressed(bool left) const {
+    NotificationCentre::defaultCentre().post(kCalculatorKeyboardButtonPressedNotification, m_table,
+                                             {{"left", left}, {"row", m_row}});
+}
+
+} // namespace velmora

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "toolkit/LabelRecord.h"
+
+#include <string>
+
+namespace velmora {
+
+class ExpressionList;
+class ExpressionWithTokenArray;
+
+/// What an entry line shows: a prefix such as "y1(x)=", the line with its cursor mark, and a suffix such as
+/// "= 0".
+struct EntryLineText {
+    std::string prefix;
+    std::string line;
+    std::string suffix;
+    std::string beforeCursor; ///< the part of the line before the cursor
+    std::string whole() const { return prefix + line + suffix; }
+};
+
+/// The text for a buffer in an editing mode; `target` may be null, and then there is no prefix or suffix.
+EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, int entering,
+                            const ExpressionList* target, int whichEquation);
+
+/// The text a label of one line shows: where both the whole and the text up to the cursor are too wide, only
+/// the latter, so that the end on screen is where the next key goes. A label of more lines shows the whole.
+std::string textFittedToLabel(const EntryLineText& text, const LabelRecord& label);
+
+/// The gap between tokens (0 to count) nearest to a point of the label, which must show this text. Long
+/// lines wrap between any two characters.
+int tokenGapAtPoint(Point point, const LabelRecord& label, const EntryLineText& text,
+                    const ExpressionWithTokenArray& buffer);
+
+} // namespace velmora

@@ -1,0 +1,27 @@
+#pragma once
+
+namespace velmora {
+
+/// What draws a keyboard screen. The controller calls it after the change; the drawing side then reads the
+/// controller's KeyboardView and history table.
+class KeyboardScreen {
+public:
+    virtual ~KeyboardScreen() = default;
+
+    /// Rows, their height or their texts have changed.
+    virtual void reloadHistory() = 0;
+    /// The last row goes to the bottom.
+    virtual void scrollHistoryToEnd(bool animated) = 0;
+    /// The text of the entry line, or its highlight, has changed.
+    virtual void showEntry() = 0;
+    /// The face of the tall key has changed.
+    virtual void showEqualsKey() = 0;
+    /// The keys are other objects than before.
+    virtual void keysChanged() = 0;
+    /// Frames and fonts have changed.
+    virtual void layoutChanged() = 0;
+    /// The edit menu of the entry line has come or gone.
+    virtual void showEditMenu(bool shown) = 0;
+};
+
+} // namespace velmora

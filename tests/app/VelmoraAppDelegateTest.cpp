@@ -1,0 +1,107 @@
+#include "app/VelmoraAppDelegate.h"
+#include "calculator/DisplayHistoryTableViewController.h"
+#include "calculator/KeyboardViewController.h"
+#include "calculator/Model.h"
+#include "platform/Log.h"
+#include "platform/NavigationController.h"
+#include "platform/SavingRegistry.h"
+#include "platform/ScreenRegistry.h"
+#include "platform/SettingsTargetRegistry.h"
+#include "platform/Sound.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace velmora::test {
+namespace {
+
+class VelmoraAppDelegateTest : public testing::Test {
+public:
+    VelmoraAppDelegateTest() { forgetEverything(); }
+    ~VelmoraAppDelegateTest() override { forgetEverything(); }
+
+    static void forgetEverything() {
+        ScreenRegistry::shared().reset();
+        SettingsTargetRegistry::shared().reset();
+        SavingRegistry::shared().reset();
+        Model::resetForTests();
+    }
+
+    RecordingSoundPlayer sounds;
+    std::vector<std::string> logged;
+    SoundPlayerScope soundScope{sounds};
+    LogScope logScope{[this](std::string_view line) { logged.emplace_back(line); }};
+    VelmoraAppDelegate app;
+};
+
+TEST_F(VelmoraAppDelegateTest, startsWithTheCalculator) {
+    app.applicationDidFinishLaunching();
+    EXPECT_EQ(sounds.category(), "AVAudioSessionCategoryAmbient");
+    EXPECT_TRUE(sounds.preloaded().empty());
+    EXPECT_TRUE(logged.empty());
+
+    const auto& tabs = app.tabBarController()->viewControllers();
+    ASSERT_FALSE(tabs.empty());
+    EXPECT_EQ(tabs[0]->tabTitle(), "Calculator");
+    EXPECT_EQ(tabs[0]->tabImage(), "calculator.png");
+    const auto stack = std::dynamic_pointer_cast<NavigationController>(tabs[0]);
+    ASSERT_TRUE(stack);
+    EXPECT_EQ(stack->topViewController(), app.calculator());
+    EXPECT_TRUE(app.calculator()->hidesNavigationBar());
+
+    app.tabBarController()->appear();
+    app.calculator()->keyboardView().setSize(320, 499);
+    for (const char* key : {"6", "*", "7", "Enter"}) {
+        EXPECT_TRUE(app.calculator()->hardwareKey(key));
+    }
+    EXPECT_EQ(Model::m().history().entryAtIndex(0)->resultText(), "42");
+    EXPECT_EQ(SettingsTargetRegistry::shared().find("Model"), &Model::m());
+}
+
+TEST_F(VelmoraAppDelegateTest, clickIsReadyWhenSoundIsAlreadyOn) {
+    Model::m().setSoundIsOn(true);
+    app.applicationDidFinishLaunching();
+    EXPECT_EQ(sounds.preloaded(), std::vector<std::string>{"click"});
+}
+
+TEST_F(VelmoraAppDelegateTest, activationsAreCountedAndMoveTheTip) {
+    Model::m().setNHasBecomeActive(18);
+    app.applicationDidFinishLaunching();
+    app.tabBarController()->appear();
+    const DisplayHistoryTableViewController& table = *app.calculator()->displayTableViewController();
+    app.applicationDidBecomeActive();
+    EXPECT_EQ(table.nTipCells(), 0);
+    app.applicationDidBecomeActive();
+    EXPECT_EQ(Model::m().nHasBecomeActive(), 20);
+    EXPECT_EQ(table.nTipCells(), 1);
+}
+
+TEST_F(VelmoraAppDelegateTest, savesInTheBackgroundAndAtTheEnd) {
+    app.applicationDidFinishLaunching();
+    int saves = 0;
+    SavingRegistry::shared().registerSaver("test", [&saves] { ++saves; });
+    app.applicationDidBecomeActive();
+    EXPECT_EQ(saves, 0);
+    app.applicationDidEnterBackground();
+    EXPECT_EQ(saves, 1);
+    app.applicationWillTerminate();
+    EXPECT_EQ(saves, 2);
+}
+
+TEST_F(VelmoraAppDelegateTest, unitConverterOpensAgainOverTheCalculator) {
+    class Converter final : public ViewController {
+        std::string className() const override { return "UnitConvertViewController"; }
+    };
+    ScreenRegistry::shared().registerScreen("UnitConvertViewController",
+                                            [] { return std::make_shared<Converter>(); });
+    Model::m().setUnitConverterIsPushed(true);
+    app.applicationDidFinishLaunching();
+    app.tabBarController()->appear();
+    EXPECT_NE(app.calculator()->navigationController()->topViewController(), app.calculator());
+    EXPECT_TRUE(Model::m().unitConverterIsPushed());
+}
+
+} // namespace
+} // namespace velmora::test

@@ -1,0 +1,173 @@
+#include "tests/calculator/CalculatorFixture.h"
+
+#include "engine/Expression.h"
+#include "platform/KeyedArchive.h"
+
+namespace velmora::test {
+namespace {
+
+class EditingModesTest : public KeyboardTest {
+public:
+    Model& model() { return Model::m(); }
+    bool isOpen() { return stack->topViewController() == keyboard; }
+    void openEquation(int slot) { open(1, &model().equations(), slot); }
+};
+
+TEST_F(EditingModesTest, entryLineNamesTheEquation) {
+    const struct {
+        int entering;
+        ExpressionList* target;
+        int slot;
+        const char* entry;
+    } cases[] = {
+        {1, &model().equations(), 0, "y1(x)=7"},
+        {1, &model().polarR(), 1, "r2(θ)=7"},
+        {2, &model().parametricX(), 3, "x4(t)=7"},
+        {3, &model().polarR(), 0, "r1(θ)=7"},
+        {1, &model().constants(), 0, "k1=7"},
+        {5, &model().impliedFunctions(), 2, "7= 0"},
+        {4, nullptr, 0, "7<0"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.entry);
+        open(c.entering, c.target, c.slot);
+        press("7");
+        EXPECT_EQ(entry(), c.entry);
+        EXPECT_EQ(key("=")->titleString(), "save");
+        EXPECT_FALSE(keyboard->displayTableViewController());
+    }
+}
+
+TEST_F(EditingModesTest, heightsFollowTheFunction) {
+    LevelCurveHeights* heights = model().impliedFunctions().levelCurveHeightsAtIndex(1);
+    heights->setLevelCurves(true);
+    heights->setStart(-1);
+    heights->setDelta(0.5);
+    heights->setN(3);
+    open(5, &model().impliedFunctions(), 1);
+    press("x + y ←");
+    EXPECT_EQ(entry(), "x+_y= -1, -0.5, 0");
+}
+
+TEST_F(EditingModesTest, savingStoresTheLineAndLeaves) {
+    openEquation(1);
+    key("x π")->pressed();
+    press("^ 2 =");
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(model().equations().descriptionWithIndex(1), "y2(x)=x^2");
+    openEquation(1);
+    press("="); // an empty line is an empty equation
+    EXPECT_FALSE(isOpen());
+    EXPECT_FALSE(model().equations().nonemptyExpressionAtIndex(1));
+}
+
+TEST_F(EditingModesTest, clearAndSaveEmptiesTheEquation) {
+    model().equations().setExpressionAtIndex(0, ExpressionWithTokenArray(tokens("x")), true);
+    openEquation(0);
+    keyboard->setDisplayModel(std::make_unique<ExpressionWithTokenArray>(tokens("x")));
+    EXPECT_EQ(entry(), "y1(x)=x");
+    ASSERT_EQ(keyboard->rightBarButtons().size(), 1U);
+    EXPECT_EQ(keyboard->rightBarButtons()[0].title, "Clear+Save");
+    EXPECT_TRUE(keyboard->pressRightBarButton(0));
+    EXPECT_FALSE(isOpen());
+    EXPECT_FALSE(model().equations().nonemptyExpressionAtIndex(0));
+}
+
+TEST_F(EditingModesTest, unreadableLineStaysOpenWithItsError) {
+    openEquation(0);
+    press("2 + =");
+    EXPECT_TRUE(isOpen());
+    ASSERT_EQ(alerts.alerts().size(), 1U);
+    EXPECT_EQ(alerts.alerts()[0].message, "Unable to parse");
+    EXPECT_EQ(alerts.alerts()[0].buttons, Texts{"OK"});
+    EXPECT_EQ(entry(), "y1(x)=2+");
+    EXPECT_FALSE(model().equations().nonemptyExpressionAtIndex(0));
+}
+
+TEST_F(EditingModesTest, equationThatCallsItselfIsRefused) {
+    model().equations().setExpressionAtIndex(0, ExpressionWithTokenArray(tokens("x")), true);
+    openEquation(0);
+    keyboard->functionSelected("y1(");
+    press("2 = =");
+    EXPECT_TRUE(isOpen());
+    ASSERT_EQ(alerts.alerts().size(), 1U);
+    EXPECT_EQ(alerts.alerts()[0].title, "Recursion found.");
+    EXPECT_EQ(alerts.alerts()[0].message,
+              "Please avoid having the equation call itself, or another equation that calls it.");
+    EXPECT_EQ(model().equations().descriptionWithIndex(0), "y1(x)=x");
+}
+
+TEST_F(EditingModesTest, operatorsDoNotContinueTheLastAnswer) {
+    openEquation(0);
+    press("+");
+    EXPECT_EQ(entry(), "y1(x)=+");
+}
+
+TEST_F(EditingModesTest, clearingNeverErasesTheHistory) {
+    model().history().addExpressionTokenArray(tokens("1"));
+    openEquation(0);
+    press("clr clr clr clr clr clr");
+    EXPECT_EQ(model().history().nExpressions(), 1);
+}
+
+TEST_F(EditingModesTest, inequalities) {
+    open(4, nullptr, 2);
+    key("x π")->pressed();
+    press("+ y ≥");
+    EXPECT_EQ(entry(), "x+y≥0");
+    press("=");
+    EXPECT_FALSE(isOpen());
+    const InequalityTokens& stored = model().inequalityArray()[2];
+    EXPECT_EQ(stored.inequalityString(), "x+y≥0");
+    const auto tree = stored.inequality();
+    EXPECT_EQ(tree->valueWithVariableValues(1.0, -1.0), ComplexValue(1)); // equality counts
+    EXPECT_EQ(tree->valueWithVariableValues(1.0, -2.0), ComplexValue(0));
+
+    open(4, nullptr, 1);
+    press("+ =");
+    EXPECT_TRUE(isOpen());
+    EXPECT_EQ(alerts.alerts().size(), 1U);
+}
+
+TEST(InequalityTokensTest, checkedUntilTheNextChange) {
+    const struct {
+        const char* what;
+        void (*change)(InequalityTokens&);
+    } changes[] = {
+        {"insert", [](InequalityTokens& i) { i.insertToken(Token("1")); }},
+        {"delete", [](InequalityTokens& i) { i.deleteAtCursor(); }},
+        {"reset", [](InequalityTokens& i) { i.reset(); }},
+        {"sign", [](InequalityTokens& i) { i.setInequalityTypeWithToken(Token(">")); }},
+    };
+    for (const auto& c : changes) {
+        SCOPED_TRACE(c.what);
+        InequalityTokens inequality(tokens("x + y"));
+        EXPECT_FALSE(inequality.hasBeenCheckedForPolynomial());
+        inequality.setHasBeenCheckedForPolynomial(true);
+        inequality.moveCursor(-1);
+        EXPECT_TRUE(inequality.hasBeenCheckedForPolynomial());
+        EXPECT_FALSE(InequalityTokens(inequality).hasBeenCheckedForPolynomial());
+        c.change(inequality);
+        EXPECT_FALSE(inequality.hasBeenCheckedForPolynomial());
+    }
+}
+
+TEST(InequalityTokensTest, copiesAndArchivesWithItsSign) {
+    InequalityTokens inequality(tokens("x * y"));
+    EXPECT_EQ(inequality.inequalityString(), "x*y<0");
+    inequality.setInequalityTypeWithToken(Token("="));
+    EXPECT_EQ(inequality.inequalityType(), "<"); // no such sign
+    inequality.setInequalityTypeWithToken(Token("≤"));
+    const auto copy = inequality.copy();
+    ASSERT_TRUE(dynamic_cast<InequalityTokens*>(copy.get()));
+    KeyedArchiver archiver;
+    copy->encodeWithCoder(archiver);
+    EXPECT_EQ(InequalityTokens::decode(KeyedUnarchiver(archiver.propertyList())).inequalityString(), "x*y≤0");
+
+    archiver.encode("InequalityTypeKey", "!");
+    EXPECT_EQ(InequalityTokens::decode(KeyedUnarchiver(archiver.propertyList())).inequalityString(), "x*y<0");
+    EXPECT_EQ(InequalityTokens::decode(KeyedUnarchiver(PropertyList())).inequalityString(), "");
+}
+
+} // namespace
+} // namespace velmora::test
