@@ -11,41 +11,23 @@ namespace {
 // The twins: what a careful programmer would write for one curve. Real arithmetic while the argument is
 // real and the value stays so, complex arithmetic otherwise, and a quotient by 0 is undefined.
 
-double quotient(double a, double b) {
-    return b == 0 ? std::nan("") : a / b;
-}
+double quotient(double a, double b) { return b == 0 ? std::nan("") : a / b; }
 
 template <double (*real)(double), ComplexValue (*complex)(ComplexValue)> ComplexValue twin(ComplexValue z) {
     return isReal(z) ? ComplexValue(real(z.real()), 0.0) : complex(z);
 }
 
-double parabola(double x) {
-    return x * x - 1;
-}
-ComplexValue parabola(ComplexValue z) {
-    return z * z - 1.0;
-}
+double parabola(double x) { return x * x - 1; }
+ComplexValue parabola(ComplexValue z) { return z * z - 1.0; }
 
-double sinc(double x) {
-    return quotient(std::sin(x), x);
-}
-ComplexValue sinc(ComplexValue z) {
-    return std::sin(z) / z;
-}
+double sinc(double x) { return quotient(std::sin(x), x); }
+ComplexValue sinc(ComplexValue z) { return std::sin(z) / z; }
 
-double rational(double x) {
-    return quotient(x * x * x - 2 * x + 1, x * x + 1);
-}
-ComplexValue rational(ComplexValue z) {
-    return (z * z * z - 2.0 * z + 1.0) / (z * z + 1.0);
-}
+double rational(double x) { return quotient(x * x * x - 2 * x + 1, x * x + 1); }
+ComplexValue rational(ComplexValue z) { return (z * z * z - 2.0 * z + 1.0) / (z * z + 1.0); }
 
-double wavePacket(double x) {
-    return std::pow(std::numbers::e, -(x * x)) * std::cos(5 * x);
-}
-ComplexValue wavePacket(ComplexValue z) {
-    return std::pow(std::numbers::e, -(z * z)) * std::cos(5.0 * z);
-}
+double wavePacket(double x) { return std::pow(std::numbers::e, -(x * x)) * std::cos(5 * x); }
+ComplexValue wavePacket(ComplexValue z) { return std::pow(std::numbers::e, -(z * z)) * std::cos(5.0 * z); }
 
 ComplexValue rootAndLogarithm(ComplexValue z) {
     if (isReal(z) && z.real() >= 0) {
@@ -54,19 +36,11 @@ ComplexValue rootAndLogarithm(ComplexValue z) {
     return std::sqrt(z) + std::log(z + 20.0);
 }
 
-double tangent(double x) {
-    return std::tan(x);
-}
-ComplexValue tangent(ComplexValue z) {
-    return std::tan(z);
-}
+double tangent(double x) { return std::tan(x); }
+ComplexValue tangent(ComplexValue z) { return std::tan(z); }
 
-double cubeRootOfMagnitude(double x) {
-    return std::cbrt(std::abs(x));
-}
-ComplexValue cubeRootOfMagnitude(ComplexValue z) {
-    return std::cbrt(std::abs(z));
-}
+double cubeRootOfMagnitude(double x) { return std::cbrt(std::abs(x)); }
+ComplexValue cubeRootOfMagnitude(ComplexValue z) { return std::cbrt(std::abs(z)); }
 
 template <typename Value> Value horner(Value x) {
     Value value = 1.0;
@@ -76,12 +50,8 @@ template <typename Value> Value horner(Value x) {
     return value;
 }
 
-double horner(double x) {
-    return horner<double>(x);
-}
-ComplexValue horner(ComplexValue z) {
-    return horner<ComplexValue>(z);
-}
+double horner(double x) { return horner<double>(x); }
+ComplexValue horner(ComplexValue z) { return horner<ComplexValue>(z); }
 
 /// 1 x + 2, all times x, plus 3, … : 61 nodes.
 std::string hornerText(const char* separator) {
@@ -121,8 +91,6 @@ const std::vector<Line>& lines() {
     return lines;
 }
 
-const Line& complexLine() {
-    return lines()[4];
-}
+const Line& complexLine() { return lines()[4]; }
 
 } // namespace velmora::bench

@@ -4,8 +4,10 @@
 #include "engine/Expression.h"
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 #include <muParser.h>
 
+#include <memory>
 #include <string>
 
 namespace velmora::bench {
@@ -37,7 +39,16 @@ std::string nested(int symbols) {
     return text;
 }
 
+/// The bytes that making a thing leaves allocated.
+template <typename Make> double bytesHeld(Make make) {
+    const std::size_t before = mallinfo2().uordblks;
+    const auto held = make();
+    benchmark::DoNotOptimize(held);
+    return static_cast<double>(mallinfo2().uordblks - before);
+}
+
 void parseTokens(benchmark::State& state, const TokenArray& tokens) {
+    state.counters["bytes"] = bytesHeld([&] { return Expression::newExpressionWithTokens(tokens); });
     for (auto _ : state) {
         benchmark::DoNotOptimize(Expression::newExpressionWithTokens(tokens));
     }
@@ -46,6 +57,13 @@ void parseTokens(benchmark::State& state, const TokenArray& tokens) {
 void parseMuParser(benchmark::State& state) {
     const std::string text = alternating(50, "");
     double variable = 1.5;
+    state.counters["bytes"] = bytesHeld([&] {
+        auto parser = std::make_unique<mu::Parser>();
+        parser->DefineVar("x", &variable);
+        parser->SetExpr(text);
+        parser->Eval();
+        return parser;
+    });
     mu::Parser parser;
     parser.DefineVar("x", &variable);
     for (auto _ : state) {

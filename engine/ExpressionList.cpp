@@ -62,12 +62,14 @@ std::string ExpressionList::descriptionWithIndex(int index) const {
     return fullFunctionNameWithIndex(index) + "=" + expressionString(index);
 }
 
+bool ExpressionList::hasEntry(int index) const { return index >= 0 && index < nExpressions(); }
+
 const ExpressionWithTokenArray* ExpressionList::entryAtIndex(int index) const {
-    return index >= 0 && index < nExpressions() ? m_entries[static_cast<std::size_t>(index)].get() : nullptr;
+    return hasEntry(index) ? m_entries[static_cast<std::size_t>(index)].get() : nullptr;
 }
 
 ExpressionWithTokenArray* ExpressionList::entryAtIndex(int index) {
-    return const_cast<ExpressionWithTokenArray*>(std::as_const(*this).entryAtIndex(index));
+    return hasEntry(index) ? m_entries[static_cast<std::size_t>(index)].get() : nullptr;
 }
 
 std::shared_ptr<const Expression> ExpressionList::expressionAtIndex(int index) const {

@@ -69,6 +69,7 @@ public:
 
 private:
     void appendEmptyEntries(int max, int n);
+    bool hasEntry(int index) const;
 
     std::vector<std::unique_ptr<ExpressionWithTokenArray>> m_entries;
     int m_maxExpressions = 0;

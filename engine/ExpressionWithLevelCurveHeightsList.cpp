@@ -3,7 +3,6 @@
 #include "platform/KeyedArchive.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace velmora {
 
@@ -15,13 +14,16 @@ void ExpressionWithLevelCurveHeightsList::setLevelCurveHeightsArray(std::vector<
     m_heights = std::move(heights);
 }
 
+bool ExpressionWithLevelCurveHeightsList::hasHeights(int index) const {
+    return index >= 0 && static_cast<std::size_t>(index) < m_heights.size();
+}
+
 const LevelCurveHeights* ExpressionWithLevelCurveHeightsList::levelCurveHeightsAtIndex(int index) const {
-    const bool exists = index >= 0 && static_cast<std::size_t>(index) < m_heights.size();
-    return exists ? &m_heights[static_cast<std::size_t>(index)] : nullptr;
+    return hasHeights(index) ? &m_heights[static_cast<std::size_t>(index)] : nullptr;
 }
 
 LevelCurveHeights* ExpressionWithLevelCurveHeightsList::levelCurveHeightsAtIndex(int index) {
-    return const_cast<LevelCurveHeights*>(std::as_const(*this).levelCurveHeightsAtIndex(index));
+    return hasHeights(index) ? &m_heights[static_cast<std::size_t>(index)] : nullptr;
 }
 
 std::string ExpressionWithLevelCurveHeightsList::descriptionWithIndex(int index) const {

@@ -29,6 +29,8 @@ public:
     void loadHeights(const PropertyList& object);
 
 private:
+    bool hasHeights(int index) const;
+
     std::vector<LevelCurveHeights> m_heights;
 };
 
