@@ -17,14 +17,13 @@ bool isReal(const BivarRow& row, double a, double b) {
 
 } // namespace
 
-BivarFunction::BivarFunction(BivarType function)
-    : Expression(Kind::TwoInputs), m_row(&bivarRow(function)), m_type(function) {
+BivarFunction::BivarFunction(BivarType function) : FunctionExpression(Kind::TwoInputs), m_type(function) {
     refreshTraits();
 }
 
 BivarFunction::BivarFunction(BivarType function, std::unique_ptr<Expression> input1,
                              std::unique_ptr<Expression> input2)
-    : Expression(Kind::TwoInputs), m_row(&bivarRow(function)), m_type(function) {
+    : FunctionExpression(Kind::TwoInputs), m_type(function) {
     setInputs(std::move(input1), std::move(input2));
 }
 
@@ -65,32 +64,32 @@ void BivarFunction::refreshTraits() {
     }
     const ComplexValue a = m_input1->constant();
     const ComplexValue b = m_input2->constant();
-    if (m_row->complexMessage.empty() || (velmora::isReal(a) && velmora::isReal(b))) {
+    if (row().complexMessage.empty() || (velmora::isReal(a) && velmora::isReal(b))) {
         setConstant(valueWithComplex(a, b));
     }
 }
 
 double BivarFunction::valueWithDouble(double a, double b) const {
-    if (m_row->real == nullptr && m_type != BivarType::BesselJ && m_type != BivarType::BesselY) {
+    if (row().real == nullptr && m_type != BivarType::BesselJ && m_type != BivarType::BesselY) {
         Environment::current().raiseDebugAlert("Unexpected function type.");
         Environment::current().raiseDebugAlert("problem in method valueWithDouble andDouble");
     }
-    return isReal(*m_row, a, b) ? m_row->real(a, b) : std::numeric_limits<double>::quiet_NaN();
+    return isReal(row(), a, b) ? row().real(a, b) : std::numeric_limits<double>::quiet_NaN();
 }
 
 ComplexValue BivarFunction::valueWithComplex(ComplexValue a, ComplexValue b) const {
     if (velmora::isReal(a) && velmora::isReal(b)) {
-        if (isReal(*m_row, a.real(), b.real())) {
-            return {m_row->real(a.real(), b.real()), 0.0};
+        if (isReal(row(), a.real(), b.real())) {
+            return {row().real(a.real(), b.real()), 0.0};
         }
     } else if (isNaN(a) || isNaN(b)) {
         return undefinedValue();
     }
-    if (m_row->complex != nullptr) {
-        return m_row->complex(a, b);
+    if (row().complex != nullptr) {
+        return row().complex(a, b);
     }
-    if (!m_row->complexMessage.empty()) {
-        Environment::current().raiseOneShotAlert(m_row->complexMessage);
+    if (!row().complexMessage.empty()) {
+        Environment::current().raiseOneShotAlert(row().complexMessage);
     }
     return undefinedValue();
 }
@@ -118,7 +117,12 @@ void BivarFunction::describeToProgram(RealProgramBuilder& builder) const {
         return;
     }
     builder.append(*m_input1);
-    builder.appendOperation(m_type, *m_row, *m_input2);
+    builder.appendOperation(m_type, row(), *m_input2);
+}
+
+const std::string* BivarFunction::findErrorText() const {
+    const std::string* first = errorTextOfInput(m_input1.get());
+    return first != nullptr ? first : errorTextOfInput(m_input2.get());
 }
 
 bool BivarFunction::refersTo(DependenceSearch& search) const {

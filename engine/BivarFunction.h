@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/BivarTable.h"
-#include "engine/Expression.h"
+#include "engine/FunctionExpression.h"
 #include "engine/TokenElement.h"
 
 #include <memory>
@@ -11,7 +11,7 @@
 namespace velmora {
 
 /// An operator, a function of two inputs, or a comparison.
-class BivarFunction final : public Expression {
+class BivarFunction final : public FunctionExpression {
 public:
     /// An operation still waiting for its inputs, as the parser first makes it.
     explicit BivarFunction(BivarType function);
@@ -33,7 +33,7 @@ public:
     void setInput1(std::unique_ptr<Expression> input);
     void setInput2(std::unique_ptr<Expression> input);
 
-    std::string_view operatorDescription() const { return m_row->name; }
+    std::string_view operatorDescription() const { return row().name; }
     bool isInequality() const {
         return function() >= BivarType::GreaterOrEqual && function() <= BivarType::Less;
     }
@@ -63,10 +63,12 @@ public:
     void describe(DescriptionWriter& writer) const override;
 
 private:
+    const std::string* findErrorText() const override;
     void refreshTraits();
 
-    const BivarRow* m_row;
-    BivarType m_type;                     // the row's, read at every evaluation
+    const BivarRow& row() const { return bivarRow(m_type); }
+
+    BivarType m_type;
     std::unique_ptr<Expression> m_input1; // both null until the parser finds the operands
     std::unique_ptr<Expression> m_input2;
 };

@@ -5,7 +5,7 @@
 namespace velmora {
 
 ErrorExpression::ErrorExpression(std::string_view text, Cause cause) : m_errorString(text) {
-    m_errorText = &m_errorString;
+    m_hasError = true;
     m_isGraphable = false;
     m_holdsRecursion = cause == Cause::Recursion;
 }

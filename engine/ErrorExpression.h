@@ -19,6 +19,8 @@ public:
     void describe(DescriptionWriter& writer) const override;
 
 private:
+    const std::string* findErrorText() const override { return &m_errorString; }
+
     std::string m_errorString;
 };
 

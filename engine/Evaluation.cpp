@@ -1,6 +1,6 @@
 #include "engine/Evaluation.h"
 
-#include "engine/RealProgram.h"
+#include "engine/FunctionExpression.h"
 
 namespace velmora {
 
@@ -26,9 +26,9 @@ namespace {
 ComplexValue evaluate(const Expression& tree, const VariableValues& variables, EvaluationBudget* budget) {
     const auto& [x, y, none] = variables.byType;
     // A value without variables is asked for once a line, which a program would not be worth.
-    if (variables.areGiven && isReal(x) && isReal(y)) {
+    if (tree.isFunction() && variables.areGiven && isReal(x) && isReal(y)) {
         RealProgram::Run run(x.real(), y.real(), none.real(), variables.areTwo, budget);
-        const double value = tree.realProgram().value(run);
+        const double value = static_cast<const FunctionExpression&>(tree).realProgram().value(run);
         if (!run.leftReals) {
             return {value, 0.0};
         }
@@ -41,8 +41,11 @@ ComplexValue evaluateAt(const Expression& tree, ComplexValue z, EvaluationBudget
 }
 
 ComplexValue evaluateAtReal(const Expression& tree, double x, EvaluationBudget* budget) {
+    if (!tree.isFunction()) {
+        return evaluateTreeAt(tree, x, budget);
+    }
     RealProgram::Run run(x, x, x, false, budget);
-    const double value = tree.realProgram().value(run);
+    const double value = static_cast<const FunctionExpression&>(tree).realProgram().value(run);
     return run.leftReals ? evaluateTreeAt(tree, x, budget) : ComplexValue(value, 0.0);
 }
 

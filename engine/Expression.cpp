@@ -23,10 +23,6 @@ const ComplexValue kNoValue{std::numeric_limits<double>::quiet_NaN(),
 
 } // namespace
 
-Expression::Expression(Kind kind) : m_kind(kind) {}
-
-Expression::~Expression() = default;
-
 ComplexValue Expression::value() const {
     const ComplexValue none = undefinedValue();
     return evaluate(*this, {.byType = {none, none, none}, .areGiven = false}, nullptr);
@@ -47,11 +43,6 @@ double Expression::roundedRealValueWithVariableValue(ComplexValue z) const {
 
 void Expression::describeToProgram(RealProgramBuilder& builder) const { builder.appendOtherNode(*this); }
 
-const RealProgram& Expression::makeRealProgram() const {
-    m_realProgram = std::make_unique<const RealProgram>(*this);
-    return *m_realProgram;
-}
-
 ComplexValue Expression::complexValue(ComplexEvaluation& evaluation) const {
     // What has no value at all answers a question about two variables with both parts undefined.
     return evaluation.variables.areTwo ? kNoValue : undefinedValue();
@@ -62,7 +53,8 @@ std::string Expression::formattedValueOrErrorDescription() const { return format
 std::string Expression::formattedValue(ComplexValue value) const {
     if (isReal(value)) {
         if (std::isnan(value.real())) {
-            return m_errorText != nullptr ? *m_errorText : std::string(kUndefined);
+            const std::string* error = errorText();
+            return error != nullptr ? *error : std::string(kUndefined);
         }
         return displayStringWithDouble(value.real());
     }
@@ -73,7 +65,8 @@ std::string Expression::formattedValue(ComplexValue value) const {
 }
 
 std::optional<std::string> Expression::errorDescription() const {
-    return m_errorText != nullptr ? std::optional(*m_errorText) : std::nullopt;
+    const std::string* error = errorText();
+    return error != nullptr ? std::optional(*error) : std::nullopt;
 }
 
 bool Expression::refersTo(DependenceSearch&) const { return false; }
@@ -97,21 +90,25 @@ std::string Expression::description() const {
 void Expression::adoptTraits(const Expression* input) {
     const bool isUsable = input != nullptr && !input->isMark();
     if (input != nullptr) {
-        m_height = std::max(m_height, input->m_height + 1);
+        m_height = static_cast<std::uint16_t>(std::max<int>(m_height, input->m_height + 1));
         m_size = std::min(m_size + input->m_size, kMaximumSize);
         m_holdsRecursion = m_holdsRecursion || input->m_holdsRecursion;
     }
     m_isGraphable = m_isGraphable && isUsable && input->m_isGraphable;
-    if (m_errorText == nullptr) {
-        m_errorText = isUsable ? input->m_errorText : &unableToParseText();
-    }
+    m_hasError = m_hasError || !isUsable || input->m_hasError;
     if (!isUsable) {
         setConstant(undefinedValue()); // so no evaluation ever meets the gap
     }
 }
 
+const std::string* Expression::findErrorText() const { return nullptr; }
+
+const std::string* Expression::errorTextOfInput(const Expression* input) {
+    return input == nullptr || input->isMark() ? &unableToParseText() : input->errorText();
+}
+
 void Expression::resetTraits() {
-    m_errorText = nullptr;
+    m_hasError = false;
     m_height = 1;
     m_size = 1;
     m_leaf = Leaf::None;

@@ -15,7 +15,6 @@ namespace velmora {
 class DependenceSearch;
 class DescriptionWriter;
 class Expression;
-class RealProgram;
 class RealProgramBuilder;
 struct ComplexEvaluation;
 
@@ -26,7 +25,7 @@ using ExpressionArray = std::vector<std::unique_ptr<Expression>>;
 /// only read. No tree is higher than kMaximumHeight, so walking one never exhausts the stack.
 class Expression {
 public:
-    virtual ~Expression();
+    virtual ~Expression() = default;
     Expression(const Expression&) = delete;
     Expression& operator=(const Expression&) = delete;
 
@@ -94,16 +93,14 @@ public:
     virtual ComplexValue complexValue(ComplexEvaluation& evaluation) const;
     /// Appends the steps by which the node is evaluated in real arithmetic.
     virtual void describeToProgram(RealProgramBuilder& builder) const;
-    /// The tree's program for real arithmetic, made when first asked for.
-    const RealProgram& realProgram() const {
-        return m_realProgram != nullptr ? *m_realProgram : makeRealProgram();
-    }
     virtual bool refersTo(DependenceSearch& search) const;
     virtual void describe(DescriptionWriter& writer) const = 0;
 
     /// What the parser has to tell apart at every node, faster than the language's own type queries.
-    enum class Kind : std::uint8_t { Leaf, OneInput, TwoInputs, ThreeInputs, RightParen, Comma };
+    enum class Kind : std::uint8_t { Leaf, OneInput, TwoInputs, ThreeInputs, Shared, RightParen, Comma };
     Kind kind() const { return m_kind; }
+    /// Whether the node is a FunctionExpression.
+    bool isFunction() const { return m_kind >= Kind::OneInput && m_kind <= Kind::Shared; }
 
     /// How a parent may read the node without a call.
     enum class Leaf : std::uint8_t { None, RealConstant, ComplexConstant, Variable };
@@ -114,34 +111,36 @@ public:
     std::uint32_t height() const { return m_height; }
     std::uint32_t size() const { return m_size; }
     bool isConstant() const { return m_leaf == Leaf::RealConstant || m_leaf == Leaf::ComplexConstant; }
-    const std::string* errorText() const { return m_errorText; }
+    /// The first error text found in the tree; null when there is none.
+    const std::string* errorText() const { return m_hasError ? findErrorText() : nullptr; }
     bool holdsRecursion() const { return m_holdsRecursion; }
 
 protected:
-    explicit Expression(Kind kind = Kind::Leaf);
+    explicit Expression(Kind kind = Kind::Leaf) : m_kind(kind) {}
 
-    /// Takes over what a parent inherits from an input: height, size, first error, graphability. A
-    /// missing input or a grouping mark in its place makes the node unreadable.
-    /// It then has the constant value NaN, so that evaluation need not look for what is missing.
+    /// Takes over what a parent inherits from an input: height, size, errors, graphability. A missing
+    /// input or a grouping mark in its place makes the node unreadable. It then has the constant value
+    /// NaN, so that evaluation need not look for what is missing.
     void adoptTraits(const Expression* input);
     /// Forgets what was inherited, before new inputs are adopted.
     void resetTraits();
     void setConstant(ComplexValue value);
 
+    /// Asked only of a node that has an error: the text in the first of its inputs that has one.
+    virtual const std::string* findErrorText() const;
+    /// The error text that an input gives its parent; null when it has none.
+    static const std::string* errorTextOfInput(const Expression* input);
+
+    // A line holds a node a token, so these are kept small.
     ComplexValue m_constant;
-    const std::string* m_errorText = nullptr;
-    std::uint32_t m_height = 1;
     std::uint32_t m_size = 1;
-    Leaf m_leaf = Leaf::None;
+    std::uint16_t m_height = 1;
     Kind m_kind;
+    Leaf m_leaf = Leaf::None;
     std::uint8_t m_variableIndex = 0;
-    bool m_isGraphable = true;
-    bool m_holdsRecursion = false;
-
-private:
-    const RealProgram& makeRealProgram() const;
-
-    mutable std::unique_ptr<const RealProgram> m_realProgram; // of a root, once it has been evaluated
+    bool m_isGraphable : 1 = true;
+    bool m_hasError : 1 = false;
+    bool m_holdsRecursion : 1 = false;
 };
 
 } // namespace velmora

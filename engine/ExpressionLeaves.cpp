@@ -44,7 +44,8 @@ Node nodeOfConstant(std::string_view text) {
     int number = 0;
     const auto [end, problem] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     const NamedExpressionList* constants = Environment::current().constants();
-    if (problem != std::errc() || constants == nullptr || constants->entryAtIndex(number - 1) == nullptr) {
+    if (problem != std::errc() || number < 1 || constants == nullptr ||
+        constants->entryAtIndex(number - 1) == nullptr) {
         return std::make_unique<ErrorExpression>(kUnableToParse);
     }
     std::shared_ptr<const Expression> constant = constants->expressionAtIndex(number - 1);

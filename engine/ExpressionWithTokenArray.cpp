@@ -97,7 +97,7 @@ void ExpressionWithTokenArray::insertToken(TokenElement token) {
 void ExpressionWithTokenArray::insertTokenArray(TokenArray tokens) {
     m_tokens.insert(m_tokens.begin() + m_cursor, std::make_move_iterator(tokens.begin()),
                     std::make_move_iterator(tokens.end()));
-    ++m_cursor;
+    moveCursor(1); // not beyond the end when there was nothing to insert
     clearExpression();
 }
 

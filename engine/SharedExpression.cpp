@@ -6,11 +6,12 @@
 
 namespace velmora {
 
-SharedExpression::SharedExpression(std::shared_ptr<const Expression> tree) : m_tree(std::move(tree)) {
-    m_errorText = m_tree->errorText();
+SharedExpression::SharedExpression(std::shared_ptr<const Expression> tree)
+    : FunctionExpression(Kind::Shared), m_tree(std::move(tree)) {
+    m_hasError = m_tree->errorText() != nullptr;
     m_isGraphable = m_tree->isGraphable();
     m_holdsRecursion = m_tree->holdsRecursion();
-    m_height = m_tree->height() + 1;
+    m_height = static_cast<std::uint16_t>(m_tree->height() + 1);
     if (m_tree->isConstant()) {
         setConstant(m_tree->constant());
     }
@@ -25,6 +26,8 @@ ComplexValue SharedExpression::complexValue(ComplexEvaluation& evaluation) const
     }
     return evaluation.shared.keep(*m_tree, complexOf(*m_tree, evaluation));
 }
+
+const std::string* SharedExpression::findErrorText() const { return m_tree->errorText(); }
 
 bool SharedExpression::refersTo(DependenceSearch& search) const { return search.leadsToSought(*m_tree); }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Expression.h"
+#include "engine/FunctionExpression.h"
 
 #include <memory>
 
@@ -9,7 +9,7 @@ namespace velmora {
 /// A finished tree that several lines share, standing in a line as one operand: a user's constant, or
 /// an expression placed in the line as it is. However its tree is built, products are implied on both
 /// sides of it and powers take its whole value.
-class SharedExpression final : public Expression {
+class SharedExpression final : public FunctionExpression {
 public:
     explicit SharedExpression(std::shared_ptr<const Expression> tree);
 
@@ -22,6 +22,7 @@ public:
     void describe(DescriptionWriter& writer) const override;
 
 private:
+    const std::string* findErrorText() const override;
     std::shared_ptr<const Expression> m_tree;
 };
 

@@ -15,10 +15,11 @@ constexpr std::string_view kInternalRepresentationKey = "InternalRepresentation"
 
 std::string nameOfConstant(std::string_view token) {
     int number = 0;
-    std::from_chars(token.data() + 2, token.data() + token.size(), number);
+    const auto [end, problem] = std::from_chars(token.data() + 2, token.data() + token.size(), number);
+    const bool isInRange = problem != std::errc::result_out_of_range && number >= 0;
     const NamedExpressionList* constants = Environment::current().constants();
-    return constants != nullptr ? constants->fullFunctionNameWithIndex(number - 1)
-                                : std::string(token.substr(1));
+    return isInRange && constants != nullptr ? constants->fullFunctionNameWithIndex(number - 1)
+                                             : std::string(token.substr(1));
 }
 
 } // namespace

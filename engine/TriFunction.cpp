@@ -12,7 +12,7 @@ namespace velmora {
 
 TriFunction::TriFunction(std::unique_ptr<const Expression> input1, std::unique_ptr<const Expression> input2,
                          std::unique_ptr<const Expression> input3)
-    : Expression(Kind::ThreeInputs) {
+    : FunctionExpression(Kind::ThreeInputs) {
     setInputs(std::move(input1), std::move(input2), std::move(input3));
 }
 
@@ -46,6 +46,14 @@ ComplexValue TriFunction::complexValue(ComplexEvaluation& evaluation) const {
         return undefinedValue();
     }
     return complexOf(variable.real() <= bound.real() ? *m_input2 : *m_input3, evaluation);
+}
+
+const std::string* TriFunction::findErrorText() const {
+    const std::string* text = nullptr;
+    for (const Expression* input : {m_input1.get(), m_input2.get(), m_input3.get()}) {
+        text = text != nullptr ? text : errorTextOfInput(input);
+    }
+    return text;
 }
 
 bool TriFunction::refersTo(DependenceSearch& search) const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Expression.h"
+#include "engine/FunctionExpression.h"
 
 #include <memory>
 #include <string_view>
@@ -9,9 +9,9 @@ namespace velmora {
 
 /// "conditional(bound, a, b)": a while the variable is at most the bound, else b.
 /// Undefined without a variable; of two variables it looks at the first.
-class TriFunction final : public Expression {
+class TriFunction final : public FunctionExpression {
 public:
-    TriFunction() : Expression(Kind::ThreeInputs) { adoptTraits(nullptr); }
+    TriFunction() : FunctionExpression(Kind::ThreeInputs) { adoptTraits(nullptr); }
     TriFunction(std::unique_ptr<const Expression> input1, std::unique_ptr<const Expression> input2,
                 std::unique_ptr<const Expression> input3);
 
@@ -34,6 +34,7 @@ public:
     void describe(DescriptionWriter& writer) const override;
 
 private:
+    const std::string* findErrorText() const override;
     std::unique_ptr<const Expression> m_input1; // all null until the parser pairs the brackets
     std::unique_ptr<const Expression> m_input2;
     std::unique_ptr<const Expression> m_input3;

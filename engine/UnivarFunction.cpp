@@ -36,12 +36,12 @@ double univarRealRule(const UnivarRow& row, double a) {
 }
 
 UnivarFunction::UnivarFunction(UnivarType function)
-    : Expression(Kind::OneInput), m_row(&univarRow(function)) {
+    : FunctionExpression(Kind::OneInput), m_row(&univarRow(function)) {
     adoptTraits(nullptr);
 }
 
 UnivarFunction::UnivarFunction(UnivarType function, std::unique_ptr<const Expression> input)
-    : Expression(Kind::OneInput), m_row(&univarRow(function)) {
+    : FunctionExpression(Kind::OneInput), m_row(&univarRow(function)) {
     setInput(std::move(input));
 }
 
@@ -130,6 +130,8 @@ void UnivarFunction::describeToProgram(RealProgramBuilder& builder) const {
     builder.append(*m_input);
     builder.appendFunction(*m_row);
 }
+
+const std::string* UnivarFunction::findErrorText() const { return errorTextOfInput(m_input.get()); }
 
 bool UnivarFunction::refersTo(DependenceSearch& search) const {
     return m_input != nullptr && m_input->refersTo(search);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Expression.h"
+#include "engine/FunctionExpression.h"
 #include "engine/UnivarTable.h"
 
 #include <memory>
@@ -15,7 +15,7 @@ class Token;
 double univarRealRule(const UnivarRow& row, double a);
 
 /// A function of one input, such as "sin(" or "sqrt(", or a negation.
-class UnivarFunction : public Expression {
+class UnivarFunction : public FunctionExpression {
 public:
     /// A function still waiting for its input, as the parser first makes it.
     explicit UnivarFunction(UnivarType function);
@@ -53,6 +53,7 @@ public:
     void describe(DescriptionWriter& writer) const override;
 
 private:
+    const std::string* findErrorText() const override;
     void foldConstantInput();
 
     const UnivarRow* m_row;
