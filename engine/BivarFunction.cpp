@@ -59,6 +59,9 @@ void BivarFunction::refreshTraits() {
     resetTraits();
     adoptTraits(m_input1.get());
     adoptTraits(m_input2.get());
+    if (m_type == BivarType::NoOperator) {
+        setConstant(undefinedValue());
+    }
     if (isConstant() || !m_input1->isConstant() || !m_input2->isConstant()) {
         return;
     }

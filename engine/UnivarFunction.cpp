@@ -74,6 +74,10 @@ void UnivarFunction::setInput(std::unique_ptr<const Expression> input) {
 }
 
 void UnivarFunction::foldConstantInput() {
+    if (function() == UnivarType::NoFunction) {
+        setConstant(undefinedValue());
+        return;
+    }
     const bool isFixed = m_row->angle == AngleUse::None && function() != UnivarType::Random &&
                          function() != UnivarType::UserDefined;
     if (isFixed && !isConstant() && m_input->isConstant() &&
