@@ -16,6 +16,7 @@ packages_build=(
 # What the program loads while it runs, and the fonts of its scenes.
 packages_run=(
     fonts-dejavu-core
+    fonts-inter
     libgl1-mesa-dri
     libqt6svg6
     qml6-module-qtqml

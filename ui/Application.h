@@ -1,0 +1,68 @@
+#pragma once
+
+#include "app/VelmoraAppDelegate.h"
+#include "platform/Alert.h"
+#include "platform/Device.h"
+#include "platform/DocumentsFolder.h"
+#include "platform/LinkOpener.h"
+#include "platform/Pasteboard.h"
+#include "platform/ScreenMetrics.h"
+#include "platform/TextMeasure.h"
+#include "platform/Timer.h"
+#include "ui/NavigationAdapter.h"
+#include "ui/QtAlertPresenter.h"
+#include "ui/QtDocumentsFolder.h"
+#include "ui/QtLinkOpener.h"
+#include "ui/QtPasteboard.h"
+#include "ui/QtTextMeasure.h"
+#include "ui/QtTimerService.h"
+#include "ui/SceneAdapter.h"
+#include "ui/TabBarAdapter.h"
+#include "ui/WindowLife.h"
+
+#include <QQuickView>
+
+#include <memory>
+
+namespace velmora {
+
+/// The whole program on Qt: this machine's services, the start-up below, and the window that shows it.
+/// Needs a QGuiApplication; one at a time.
+class Application final {
+public:
+    /// Starts the program and builds its window, which show() of the window brings up.
+    Application();
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    QQuickView& window() { return *m_window; }
+    VelmoraAppDelegate& delegate() { return m_delegate; }
+
+private:
+    void followWindow();
+
+    SceneAdapter m_scene;
+    QtAlertPresenter m_alerts;
+    QtPasteboard m_pasteboard;
+    QtTextMeasure m_textMeasure;
+    QtTimerService m_timers;
+    QtLinkOpener m_links;
+    QtDocumentsFolder m_documents;
+    DeviceScope m_deviceScope{m_scene};
+    ScreenMetricsScope m_metricsScope{m_scene};
+    AlertPresenterScope m_alertScope{m_alerts};
+    PasteboardScope m_pasteboardScope{m_pasteboard};
+    TextMeasureScope m_textScope{m_textMeasure};
+    TimerServiceScope m_timerScope{m_timers};
+    LinkOpenerScope m_linkScope{m_links};
+    DocumentsFolderScope m_documentsScope{m_documents};
+
+    VelmoraAppDelegate m_delegate;
+    std::unique_ptr<TabBarAdapter> m_tabBar;
+    std::unique_ptr<NavigationAdapter> m_navigation;
+    std::unique_ptr<QQuickView> m_window;
+    std::unique_ptr<WindowLife> m_life;
+};
+
+} // namespace velmora

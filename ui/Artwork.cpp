@@ -1,0 +1,168 @@
+#include "ui/Artwork.h"
+
+#include "platform/Log.h"
+#include "ui/KeyColors.h"
+
+#include <QImage>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+/// What a drawing needs to know of the place it fills.
+struct Canvas {
+    QPainter& painter;
+    QRectF area;
+    double pixelsPerPoint;
+};
+
+constexpr double kKeyRadius = 7;
+constexpr double kPanelRadius = 13;
+constexpr QRgb kPanelColor = 0xff3a3f47;
+constexpr QRgb kPanelEdgeColor = 0xff5a616b;
+
+void fillRounded(const Canvas& canvas, const QRectF& area, double radius, const QBrush& brush) {
+    canvas.painter.setPen(Qt::NoPen);
+    canvas.painter.setBrush(brush);
+    canvas.painter.drawRoundedRect(area, radius * canvas.pixelsPerPoint, radius * canvas.pixelsPerPoint);
+}
+
+/// A key stands out by a lower edge in shadow and a face that is a little lighter at the top; pressed, it
+/// sinks onto its edge and lights up.
+void drawKey(const Canvas& canvas, const QColor& color, bool isPressed) {
+    const double edge = std::max(1.0, std::round(canvas.pixelsPerPoint));
+    const QRectF face =
+        isPressed ? canvas.area.adjusted(0, edge, 0, 0) : canvas.area.adjusted(0, 0, 0, -edge);
+    fillRounded(canvas, canvas.area.adjusted(0, edge, 0, 0), kKeyRadius, color.darker(190));
+    QLinearGradient shading(face.topLeft(), face.bottomLeft());
+    shading.setColorAt(0, isPressed ? color.lighter(128) : color);
+    shading.setColorAt(1, isPressed ? color.lighter(136) : color.darker(116));
+    fillRounded(canvas, face, kKeyRadius, shading);
+}
+
+void drawPanel(const Canvas& canvas) {
+    const double edge = std::max(1.0, std::round(canvas.pixelsPerPoint * 0.5));
+    fillRounded(canvas, canvas.area, kPanelRadius, QColor::fromRgba(kPanelEdgeColor));
+    fillRounded(canvas, canvas.area.adjusted(edge, edge, -edge, -edge), kPanelRadius - 0.5,
+                QColor::fromRgba(kPanelColor));
+}
+
+/// Signs are given on a square of 24 units, centred in the area.
+void useUnitSquare(const Canvas& canvas) {
+    constexpr double units = 24;
+    const double side = std::min(canvas.area.width(), canvas.area.height());
+    canvas.painter.translate(canvas.area.center() - QPointF(side / 2, side / 2));
+    canvas.painter.scale(side / units, side / units);
+}
+
+void drawRoot(const Canvas& canvas) {
+    useUnitSquare(canvas);
+    QPainterPath radical(QPointF(3.5, 13.4));
+    radical.lineTo(6, 12);
+    radical.lineTo(9.6, 19);
+    radical.lineTo(13.4, 5);
+    radical.lineTo(20.5, 5);
+    QPen pen(Qt::white, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    canvas.painter.setPen(pen);
+    canvas.painter.setBrush(Qt::NoBrush);
+    canvas.painter.drawPath(radical);
+    QPainterPath radicand(QPointF(14.6, 10));
+    radicand.lineTo(19.2, 16.6);
+    radicand.moveTo(19.2, 10);
+    radicand.lineTo(14.6, 16.6);
+    pen.setWidthF(1.5);
+    canvas.painter.setPen(pen);
+    canvas.painter.drawPath(radicand);
+}
+
+void drawCalculator(const Canvas& canvas) {
+    useUnitSquare(canvas);
+    QPainter& painter = canvas.painter;
+    painter.setPen(QPen(Qt::white, 1.6));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(4.5, 2.5, 15, 19), 3, 3);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(QRectF(7.3, 5.4, 9.4, 3.8), 0.9, 0.9);
+    for (const double y : {12.4, 15.6, 18.6}) {
+        for (const double x : {8.5, 12.0, 15.5}) {
+            painter.drawEllipse(QPointF(x, y), 1.05, 1.05);
+        }
+    }
+}
+
+struct Drawing {
+    QLatin1String name;
+    void (*draw)(const Canvas&);
+};
+const std::array kDrawings{
+    Drawing{QLatin1String("panel"), drawPanel},
+    Drawing{QLatin1String("root"), drawRoot},
+    Drawing{QLatin1String("calculator.png"), drawCalculator},
+};
+
+bool draw(QStringView name, const Canvas& canvas) {
+    const auto* drawing =
+        std::ranges::find_if(kDrawings, [&](const Drawing& row) { return name == row.name; });
+    if (drawing != kDrawings.end()) {
+        drawing->draw(canvas);
+        return true;
+    }
+    const QLatin1String pressedSuffix(kPressedSuffix);
+    const bool isPressed = name.endsWith(pressedSuffix);
+    if (isPressed) {
+        name.chop(pressedSuffix.size());
+    }
+    const QLatin1String doubledSuffix("@2x");
+    if (name.endsWith(doubledSuffix)) {
+        name.chop(doubledSuffix.size());
+    }
+    const auto color = keyColor(name);
+    if (color) {
+        drawKey(canvas, *color, isPressed);
+    }
+    return color.has_value();
+}
+
+} // namespace
+
+QUrl artworkUrl(const std::string& name, double sceneScale, double pixelsPerPoint) {
+    constexpr char plain = 'g';
+    constexpr int allDigits = 17;
+    return QUrl(QStringLiteral("image://%1/%2/%3/%4")
+                    .arg(QLatin1String(Artwork::kProviderName))
+                    .arg(sceneScale, 0, plain, allDigits)
+                    .arg(pixelsPerPoint, 0, plain, allDigits)
+                    .arg(QString::fromStdString(name)));
+}
+
+QImage Artwork::requestImage(const QString& id, QSize* size, const QSize& requestedSize) {
+    const qsizetype afterScale = id.indexOf(u'/');
+    const qsizetype afterPixels = id.indexOf(u'/', afterScale + 1);
+    const QStringView whole(id);
+    const double sceneScale = whole.left(afterScale).toDouble();
+    const double pixelsPerPoint = whole.mid(afterScale + 1, afterPixels - afterScale - 1).toDouble();
+    const QStringView name = whole.mid(afterPixels + 1);
+    const auto pixels = [&](int length) { return std::max(1, qRound(length * sceneScale)); };
+    const QSize wanted(pixels(requestedSize.width()), pixels(requestedSize.height()));
+    if (size != nullptr) {
+        *size = wanted;
+    }
+    QImage image(wanted, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!draw(name, {painter, QRectF(QPointF(), QSizeF(wanted)), pixelsPerPoint})) {
+        log("no artwork of the name " + name.toString().toStdString());
+    }
+    return image;
+}
+
+} // namespace velmora

@@ -1,0 +1,110 @@
+#include "ui/KeyListModel.h"
+
+#include "calculator/KeyboardViewController.h"
+#include "platform/ActionScope.h"
+#include "ui/Artwork.h"
+#include "ui/QtConversions.h"
+#include "ui/SceneAdapter.h"
+#include "ui/SystemFont.h"
+
+#include <QUrl>
+
+#include <algorithm>
+
+namespace velmora {
+
+namespace {
+
+constexpr const char* kRootSign = "root";
+
+} // namespace
+
+KeyListModel::KeyListModel(std::shared_ptr<KeyboardViewController> controller, const SceneAdapter& scene)
+    : m_controller(std::move(controller)), m_scene(scene) {}
+
+int KeyListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_controller->keyboardView().buttonArray().size());
+}
+
+QVariant KeyListModel::data(const QModelIndex& index, int role) const {
+    const auto& keys = m_controller->keyboardView().buttonArray();
+    if (!index.isValid() || index.row() >= static_cast<int>(keys.size())) {
+        return {};
+    }
+    const CalculatorButton& key = *keys[static_cast<std::size_t>(index.row())];
+    const KeyAppearance& appearance = key.appearance();
+    const auto face = [&](const std::string& suffix) {
+        return key.isShown() ? m_scene.artwork(appearance.backgroundImageName + suffix) : QUrl();
+    };
+    switch (role) {
+    case FrameRole:
+        return m_scene.snappedToPixels(key.frame());
+    case ShownRole:
+        return key.isShown();
+    case TitleRole:
+        return QString::fromStdString(key.titleString());
+    case TitleFontRole:
+        return sceneFont(appearance.fontName, appearance.fontSize);
+    case TitleColorRole:
+        return toQColor(appearance.titleColor);
+    case FaceRole:
+        return face({});
+    case PressedFaceRole:
+        return face(kPressedSuffix);
+    case SignRole:
+        // A key that is shown without a title is known by its artwork alone.
+        return key.isShown() && key.titleString().empty() ? m_scene.artwork(kRootSign) : QUrl();
+    case SpokenNameRole:
+        return QString::fromStdString(appearance.accessibleName);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> KeyListModel::roleNames() const {
+    return {{FrameRole, "frame"},
+            {ShownRole, "shown"},
+            {TitleRole, "title"},
+            {TitleFontRole, "titleFont"},
+            {TitleColorRole, "titleColor"},
+            {FaceRole, "face"},
+            {PressedFaceRole, "pressedFace"},
+            {SignRole, "sign"},
+            {SpokenNameRole, "spokenName"}};
+}
+
+void KeyListModel::exchange() {
+    beginResetModel();
+    endResetModel();
+}
+
+void KeyListModel::refresh() {
+    if (rowCount() > 0) {
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1));
+    }
+}
+
+void KeyListModel::refreshEqualsKey() {
+    KeyboardView& view = m_controller->keyboardView();
+    const auto& keys = view.buttonArray();
+    const auto found = std::ranges::find(keys, view.equalsButton());
+    if (found != keys.end()) {
+        const QModelIndex changed = index(static_cast<int>(found - keys.begin()));
+        Q_EMIT dataChanged(changed, changed, {TitleRole, FaceRole, PressedFaceRole, SpokenNameRole});
+    }
+}
+
+void KeyListModel::press(int row) {
+    const auto& keys = m_controller->keyboardView().buttonArray();
+    if (row < 0 || row >= static_cast<int>(keys.size())) {
+        return;
+    }
+    const ActionScope action;
+    // A copy: the press may exchange the keys.
+    const std::shared_ptr<CalculatorButton> key = keys[static_cast<std::size_t>(row)];
+    if (key->isShown()) {
+        key->pressed();
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,120 @@
+#include "ui/NavigationAdapter.h"
+
+#include "platform/ActionScope.h"
+#include "platform/NavigationController.h"
+#include "platform/TabBarController.h"
+#include "ui/SceneAdapter.h"
+#include "ui/ScreenAdapters.h"
+
+#include <QVariantMap>
+
+#include <utility>
+
+namespace velmora {
+
+namespace {
+
+QVariantList buttonList(const std::vector<BarButton>& buttons) {
+    QVariantList list;
+    for (const BarButton& button : buttons) {
+        list.append(QVariantMap{{QStringLiteral("title"), QString::fromStdString(button.title)},
+                                {QStringLiteral("enabled"), button.enabled}});
+    }
+    return list;
+}
+
+} // namespace
+
+NavigationAdapter::NavigationAdapter(std::shared_ptr<TabBarController> tabBar, SceneAdapter& scene)
+    : m_tabBar(std::move(tabBar)), m_scene(scene) {
+    m_subscriptions.push_back(m_tabBar->selectionChanged().subscribe([this] { refresh(); }));
+    connect(&scene, &SceneAdapter::changed, this, &NavigationAdapter::barChanged);
+    refresh();
+}
+
+NavigationAdapter::~NavigationAdapter() = default;
+
+std::shared_ptr<ViewController> NavigationAdapter::selected() const {
+    return m_tabBar->showsMoreList() ? nullptr : m_tabBar->selectedViewController();
+}
+
+NavigationController* NavigationAdapter::stack() const {
+    return dynamic_cast<NavigationController*>(selected().get());
+}
+
+void NavigationAdapter::refresh() {
+    NavigationController* navigation = stack();
+    m_stackSubscription =
+        navigation ? navigation->stackChanged().subscribe([this](bool) { refresh(); }) : Subscription();
+    const auto top = navigation ? navigation->topViewController() : selected();
+    if (top != m_top) {
+        m_top = top;
+        m_topSubscription =
+            m_top ? m_top->changed().subscribe([this] { Q_EMIT barChanged(); }) : Subscription();
+        // The former screen may be asking for this; it goes when QML has let go of it.
+        QObject* former = m_screen.release();
+        m_screen = m_top ? newScreenAdapter(m_top, m_scene) : nullptr;
+        Q_EMIT screenChanged();
+        if (former != nullptr) {
+            former->deleteLater();
+        }
+        m_scene.update(); // another screen may allow other orientations
+    }
+    Q_EMIT barChanged();
+}
+
+QUrl NavigationAdapter::qmlFile() const {
+    const std::string file = m_top && m_screen ? m_top->qmlFile() : std::string();
+    return file.empty() ? QUrl() : QUrl(QStringLiteral("qrc:/Velmora/") + QString::fromStdString(file));
+}
+
+bool NavigationAdapter::isBarHidden() const { return !stack() || !m_top || m_top->hidesNavigationBar(); }
+
+double NavigationAdapter::barHeight() const {
+    return isBarHidden() ? 0 : m_scene.navigationBarHeight(m_scene.statusBarOrientation());
+}
+
+QString NavigationAdapter::title() const {
+    return m_top ? QString::fromStdString(m_top->title()) : QString();
+}
+
+QString NavigationAdapter::backTitle() const {
+    const NavigationController* navigation = stack();
+    if (!navigation || navigation->viewControllers().size() < 2 || !m_top->leftBarButtons().empty()) {
+        return {};
+    }
+    const auto& screens = navigation->viewControllers();
+    const std::string& title = screens[screens.size() - 2]->backButtonTitle();
+    return title.empty() ? tr("Back") : QString::fromStdString(title);
+}
+
+QVariantList NavigationAdapter::leftButtons() const {
+    return m_top ? buttonList(m_top->leftBarButtons()) : QVariantList();
+}
+
+QVariantList NavigationAdapter::rightButtons() const {
+    return m_top ? buttonList(m_top->rightBarButtons()) : QVariantList();
+}
+
+void NavigationAdapter::goBack() {
+    const ActionScope action;
+    if (NavigationController* navigation = stack()) {
+        navigation->pop();
+    }
+}
+
+void NavigationAdapter::pressLeftButton(int index) {
+    const ActionScope action;
+    if (const auto top = m_top; top && index >= 0) {
+        top->pressLeftBarButton(static_cast<std::size_t>(index));
+    }
+}
+
+void NavigationAdapter::pressRightButton(int index) {
+    const ActionScope action;
+    if (const auto top = m_top; top && index >= 0) {
+        top->pressRightBarButton(static_cast<std::size_t>(index));
+    }
+}
+
+} // namespace velmora

@@ -1,0 +1,36 @@
+#include "ui/ScreenAdapters.h"
+
+#include "calculator/KeyboardViewController.h"
+#include "platform/Log.h"
+#include "ui/KeyboardScreenAdapter.h"
+
+namespace velmora {
+
+namespace {
+
+using ControllerPointer = std::shared_ptr<ViewController>;
+
+template <class Controller, class Adapter>
+std::unique_ptr<QObject> make(const ControllerPointer& controller, const SceneAdapter& scene) {
+    auto own = std::dynamic_pointer_cast<Controller>(controller);
+    return own ? std::make_unique<Adapter>(std::move(own), scene) : nullptr;
+}
+
+/// One line a kind of screen.
+constexpr std::unique_ptr<QObject> (*kMakers[])(const ControllerPointer&, const SceneAdapter&) = {
+    make<KeyboardViewController, KeyboardScreenAdapter>,
+};
+
+} // namespace
+
+std::unique_ptr<QObject> newScreenAdapter(const ControllerPointer& controller, const SceneAdapter& scene) {
+    for (const auto& maker : kMakers) {
+        if (auto adapter = maker(controller, scene)) {
+            return adapter;
+        }
+    }
+    log("nothing draws the screen " + controller->className());
+    return nullptr;
+}
+
+} // namespace velmora

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+class QSocketNotifier;
+
+namespace velmora {
+
+/// Turns SIGTERM and SIGINT into the end of the event loop, so that a program that is asked to end still
+/// saves. At most one object at a time.
+class TerminationSignals final : public QObject {
+    Q_OBJECT
+
+public:
+    TerminationSignals();
+    ~TerminationSignals() override;
+
+Q_SIGNALS:
+    void requested();
+
+private:
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace velmora

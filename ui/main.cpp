@@ -1,0 +1,40 @@
+#include "platform/Log.h"
+#include "ui/Application.h"
+#include "ui/RendererChoice.h"
+#include "ui/StartReport.h"
+#include "ui/TerminationSignals.h"
+
+#include <QGuiApplication>
+
+#include <cstdio>
+#include <exception>
+#include <string>
+
+namespace {
+
+int runVelmora(int argc, char** argv) {
+    velmora::chooseRenderer();
+    QGuiApplication::setApplicationName(QStringLiteral("velmora"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Velmora"));
+    QGuiApplication qtApplication(argc, argv);
+
+    velmora::Application application;
+    const velmora::TerminationSignals termination;
+    QObject::connect(&termination, &velmora::TerminationSignals::requested, &qtApplication,
+                     &QCoreApplication::quit);
+    velmora::reportStart(application.window());
+    application.window().show();
+    return QGuiApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    std::puts("Velmora starts");
+    try {
+        return runVelmora(argc, argv);
+    } catch (const std::exception& exception) {
+        velmora::log(std::string("exception: ") + exception.what());
+        return 1;
+    }
+}

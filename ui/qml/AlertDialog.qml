@@ -1,0 +1,71 @@
+import QtQuick
+import Velmora
+
+// The alert on screen. Nothing behind it can be touched until it is answered.
+FocusScope {
+    id: root
+
+    required property QtAlertPresenter alerts
+    required property url panelArtwork
+
+    focus: true
+
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: alerts.title
+    Accessible.description: alerts.message
+
+    Rectangle {
+        anchors.fill: parent
+        color: "black"
+        opacity: 0.55
+    }
+    MouseArea {
+        anchors.fill: parent
+        Accessible.ignored: true
+    }
+    ArtworkImage {
+        anchors.centerIn: parent
+        width: 280
+        height: content.height
+        source: root.panelArtwork
+
+        Column {
+            id: content
+            width: parent.width
+
+            AlertText {
+                visible: text !== ""
+                topPadding: 18
+                text: root.alerts.title
+                font { pixelSize: 17; bold: true }
+                Accessible.role: Accessible.Heading
+            }
+            AlertText {
+                visible: text !== ""
+                topPadding: root.alerts.title === "" ? 18 : 6
+                text: root.alerts.message
+                font.pixelSize: 14
+            }
+            Item { width: 1; height: 16 }
+            Repeater {
+                model: root.alerts.buttons
+                delegate: BarTextButton {
+                    required property int index
+                    required property string modelData
+                    width: content.width
+                    height: 44
+                    focus: index === 0
+                    text: modelData
+                    bold: index === 0
+                    onPressed: root.alerts.choose(index)
+                    Keys.onEscapePressed: pressed()
+                    Rectangle {
+                        width: parent.width
+                        height: 0.5
+                        color: "#5a616b"
+                    }
+                }
+            }
+        }
+    }
+}

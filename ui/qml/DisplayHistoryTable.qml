@@ -1,0 +1,90 @@
+import QtQuick
+import Velmora
+
+// The history as a transcript: the newest row at the bottom, right above the entry line.
+Rectangle {
+    id: root
+
+    required property KeyboardScreenAdapter screen
+    // Read once, not for every row.
+    readonly property var rowInput: screen.rowInput
+    readonly property var rowOutput: screen.rowOutput
+    readonly property rect rowLeftButton: screen.rowLeftButton
+    readonly property rect rowRightButton: screen.rowRightButton
+
+    x: screen.historyFrame.x
+    y: screen.historyFrame.y
+    width: screen.historyFrame.width
+    height: screen.historyFrame.height
+    color: "black"
+    clip: true
+
+    Connections {
+        target: root.screen
+        function onScrolledToEnd(animated) {
+            list.followsEnd = true
+            list.goToEnd(animated)
+        }
+    }
+
+    ListView {
+        id: list
+
+        // Whether the end stays in view when the place for the history changes.
+        property bool followsEnd: true
+
+        function goToEnd(animated) {
+            scrolling.stop()
+            const from = contentY
+            positionViewAtEnd()
+            if (animated) {
+                scrolling.from = from
+                scrolling.to = contentY
+                scrolling.start()
+            }
+        }
+
+        objectName: "history"
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        height: Math.min(parent.height, root.screen.rowsHeight)
+        model: root.screen.history
+        header: root.screen.tipShown ? tipRow : null
+        onHeightChanged: if (followsEnd) goToEnd(false)
+        onMovementEnded: followsEnd = atYEnd
+
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("History")
+
+        delegate: DisplayHistoryCell {
+            width: list.width
+            height: root.screen.rowHeight
+            table: root
+            onTapped: left => root.screen.tapHistoryRow(index, left)
+        }
+
+        NumberAnimation {
+            id: scrolling
+            target: list
+            property: "contentY"
+            duration: 200
+            easing.type: Easing.OutCubic
+        }
+    }
+    Component {
+        id: tipRow
+        DisplayTipCell {
+            width: list.width
+            height: root.screen.rowHeight
+            label: root.screen.tip
+        }
+    }
+    Rectangle {
+        // Where in the history the view is, while it moves.
+        visible: list.moving
+        x: parent.width - width - 2
+        y: list.y + list.visibleArea.yPosition * list.height
+        width: 3
+        height: list.visibleArea.heightRatio * list.height
+        color: "#9aa2ad"
+    }
+}

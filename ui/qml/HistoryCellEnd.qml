@@ -1,0 +1,34 @@
+import QtQuick
+
+// The invisible button over one end of a row. Dragging from it scrolls the history.
+Item {
+    id: root
+
+    required property rect frame
+    required property string spokenName
+    required property string spokenDescription
+
+    signal tapped()
+
+    x: frame.x
+    y: frame.y
+    width: frame.width
+    height: frame.height
+
+    Accessible.role: Accessible.Button
+    Accessible.name: spokenName
+    Accessible.description: spokenDescription
+    Accessible.onPressAction: tapped()
+
+    Rectangle {
+        anchors.fill: parent
+        visible: tap.pressed
+        color: "white"
+        opacity: 0.14
+    }
+    TapHandler {
+        id: tap
+        longPressThreshold: 86400
+        onTapped: root.tapped()
+    }
+}

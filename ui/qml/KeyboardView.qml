@@ -1,0 +1,65 @@
+import QtQuick
+import Velmora
+
+// A keyboard screen: the history, the entry line and the keys below them.
+FocusScope {
+    id: root
+
+    required property KeyboardScreenAdapter screen
+    readonly property size viewSize: Qt.size(width, height)
+
+    focus: true
+    onViewSizeChanged: screen.setViewSize(viewSize)
+    Keys.onPressed: event => {
+        event.accepted = screen.pressHardwareKey(event.key, event.text, event.modifiers)
+    }
+
+    Connections {
+        target: root.screen
+        function onNotice(text) { notice.show(text) }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: root.screen.backgroundColor
+    }
+    DisplayHistoryTable {
+        screen: root.screen
+    }
+    Rectangle {
+        x: root.screen.backingFrame.x
+        y: root.screen.backingFrame.y
+        width: root.screen.backingFrame.width
+        height: root.screen.backingFrame.height
+        color: root.screen.backgroundColor
+        Rectangle {
+            width: parent.width
+            height: 0.5
+            color: "#6a7078"
+        }
+    }
+    CalculatorLabel {
+        id: entryLine
+        focus: true
+        screen: root.screen
+    }
+    Repeater {
+        model: root.screen.keys
+        delegate: CalculatorButton {
+            onPressed: root.screen.pressKey(index)
+        }
+    }
+    Loader {
+        anchors.fill: parent
+        active: root.screen.editMenuShown
+        sourceComponent: EditMenu {
+            screen: root.screen
+        }
+    }
+    Notice {
+        id: notice
+        panelArtwork: root.screen.panelArtwork
+        width: parent.width - 32
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: entryLine.top; bottomMargin: 8 }
+    }
+}

@@ -1,0 +1,71 @@
+import QtQuick
+import Velmora
+
+// The window's contents: the scene, scaled as a whole and centred on black.
+Rectangle {
+    id: root
+
+    required property SceneAdapter scene
+    required property QtObject tabs
+    required property NavigationAdapter navigation
+    required property QtAlertPresenter alerts
+
+    function showScreen() {
+        page.setSource(navigation.qmlFile, { screen: navigation.screen })
+    }
+
+    color: "black"
+    Component.onCompleted: showScreen()
+
+    Connections {
+        target: root.navigation
+        function onScreenChanged() { root.showScreen() }
+    }
+
+    Item {
+        x: root.scene.frame.x
+        y: root.scene.frame.y
+        width: root.scene.frame.width
+        height: root.scene.frame.height
+        transformOrigin: Item.TopLeft
+        scale: root.scene.scale
+        clip: true
+
+        FocusScope {
+            anchors.fill: parent
+            focus: !root.alerts.shown
+            enabled: !root.alerts.shown
+
+            NavigationBar {
+                id: navigationBar
+                anchors { top: parent.top; left: parent.left; right: parent.right }
+                navigation: root.navigation
+            }
+            Loader {
+                id: page
+                anchors {
+                    top: navigationBar.bottom
+                    bottom: tabBar.top
+                    left: parent.left
+                    right: parent.right
+                }
+                focus: true
+            }
+            TabBar {
+                id: tabBar
+                anchors { bottom: parent.bottom; left: parent.left; right: parent.right }
+                height: root.scene.tabBarHeight
+                tabs: root.tabs
+            }
+        }
+        Loader {
+            anchors.fill: parent
+            active: root.alerts.shown
+            focus: active
+            sourceComponent: AlertDialog {
+                alerts: root.alerts
+                panelArtwork: root.scene.panelArtwork
+            }
+        }
+    }
+}
