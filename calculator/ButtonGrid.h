@@ -2,6 +2,8 @@
 
 #include "platform/Geometry.h"
 
+#include <algorithm>
+
 namespace velmora {
 
 /// A rectangular block of equal cells, one key each, save that the last key may be taller and the first key
@@ -24,7 +26,7 @@ public:
     void setVSpace(int space) { m_vSpace = space; }
     /// How many rows the last key spans at the bottom of the rightmost column; at least 1.
     int heightOfButtonInLowerRight() const { return m_heightOfButtonInLowerRight; }
-    void setHeightOfButtonInLowerRight(int rows) { m_heightOfButtonInLowerRight = rows; }
+    void setHeightOfButtonInLowerRight(int rows) { m_heightOfButtonInLowerRight = std::max(rows, 1); }
     /// Whether the first key of the bottom row spans two columns.
     bool doubleButtonInLowerLeft() const { return m_doubleButtonInLowerLeft; }
     void setDoubleButtonInLowerLeft(bool on) { m_doubleButtonInLowerLeft = on; }

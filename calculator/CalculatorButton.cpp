@@ -23,8 +23,10 @@ void CalculatorButton::setTitleString(const std::string& title) {
 
 std::string CalculatorButton::titleString() const {
     std::string joined;
+    const char* separator = "";
     for (const std::string& title : m_titleArray) {
-        joined += joined.empty() ? title : " " + title;
+        joined += separator + title;
+        separator = " ";
     }
     return joined;
 }

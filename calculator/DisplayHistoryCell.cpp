@@ -8,7 +8,8 @@ namespace velmora {
 namespace {
 
 constexpr double kSideMargin = 10;
-constexpr double kFontSizePerHeight = 15.0 / 38.0;
+constexpr double kRowHeightOfDesign = 38; // the row and its font are scaled alike
+constexpr double kFontSizeOfDesign = 15;
 
 } // namespace
 
@@ -24,7 +25,7 @@ void DisplayHistoryCell::layout(Size size) {
     m_outputLabel.frame = {kSideMargin, halfHeight, labelWidth, halfHeight};
     m_outputLabel.alignment = TextAlignment::Right;
     for (LabelRecord* label : {&m_inputLabel, &m_outputLabel}) {
-        label->fontSize = size.height * kFontSizePerHeight;
+        label->fontSize = size.height * kFontSizeOfDesign / kRowHeightOfDesign;
         label->textColor = Color::white(1);
     }
     const double quarter = size.width / 4;

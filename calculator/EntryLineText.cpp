@@ -1,5 +1,6 @@
 #include "calculator/EntryLineText.h"
 
+#include "calculator/Entering.h"
 #include "calculator/InequalityTokens.h"
 #include "engine/ExpressionList.h"
 #include "engine/ExpressionWithLevelCurveHeightsList.h"
@@ -71,13 +72,13 @@ EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, int entering
     EntryLineText text;
     text.line = buffer.displayStringWithCursor();
     text.beforeCursor = buffer.beforeCursorString();
-    if (target && entering >= 1 && entering <= 3) {
+    if (target && entering >= kEnteringFunction && entering <= kEnteringPolar) {
         text.prefix = target->fullFunctionNameWithIndex(whichEquation) + "=";
     }
     if (const auto* inequality = dynamic_cast<const InequalityTokens*>(&buffer)) {
         text.suffix = inequality->inequalityType() + "0";
     }
-    if (entering == 5) {
+    if (entering == kEnteringImpliedFunction) {
         const auto* functions = dynamic_cast<const ExpressionWithLevelCurveHeightsList*>(target);
         const auto* heights = functions ? functions->levelCurveHeightsAtIndex(whichEquation) : nullptr;
         if (heights) {

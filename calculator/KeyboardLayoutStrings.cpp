@@ -1,6 +1,7 @@
 #include "calculator/KeyboardLayoutStrings.h"
 
 #include "calculator/Assertion.h"
+#include "calculator/Entering.h"
 #include "calculator/KeyboardGeometry.h"
 #include "platform/Utf8.h"
 
@@ -10,7 +11,7 @@ namespace velmora {
 
 namespace {
 
-constexpr int kModes = 6;
+constexpr int kModes = kEnteringImpliedFunction + 1;
 
 constexpr std::array<std::string_view, kModes> kWideLayouts{
     "←→+-DC*/FN^STUi 789e456π1230.(=",     "←→+-DC*/FN^STUix789e456π1230.(=",
@@ -42,9 +43,9 @@ constexpr std::string_view kPairingForImpliedFunctions =
 
 std::string_view pairing(int entering) {
     switch (entering) {
-    case 4:
+    case kEnteringInequality:
         return kPairingForInequalities;
-    case 5:
+    case kEnteringImpliedFunction:
         return kPairingForImpliedFunctions;
     default:
         return kPairing;
@@ -68,7 +69,8 @@ std::string_view keyboardLayoutString(int geometry, int entering, int whichKeybo
 }
 
 std::string adjustedLayoutString(std::string_view layout, const LayoutAdjustment& adjustment) {
-    const bool namesVariable = adjustment.entering == 1 && keyboardGeometryIsWide(adjustment.geometry);
+    const bool namesVariable =
+        adjustment.entering == kEnteringFunction && keyboardGeometryIsWide(adjustment.geometry);
     // One character a key: a name of another length would shift every key after it.
     const std::string variable =
         codePointCount(adjustment.variableName) == 1 ? adjustment.variableName : std::string(" ");

@@ -108,7 +108,7 @@ private:
     Size m_size;
 
     KeyboardConfiguration m_builtFor;
-    std::vector<std::string> m_characters; // of the keys, in their order; shorter where the string ends
+    std::vector<std::string> m_characters; // of the keys, in their order; a blank for each key not shown
     std::vector<std::shared_ptr<CalculatorButton>> m_buttons;
     std::shared_ptr<CalculatorButton> m_equalsButton;
     std::string m_equalsBackgroundImageName;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calculator/Entering.h"
 #include "calculator/KeyboardView.h"
 #include "engine/ComplexValue.h"
 #include "engine/ExpressionWithTokenArray.h"
@@ -18,16 +19,6 @@ class DisplayHistoryTableViewController;
 class ExpressionList;
 class FunctionListScreen;
 class KeyboardScreen;
-
-/// What a keyboard screen edits.
-enum Entering : int {
-    kEnteringCalculatorLine = 0,
-    kEnteringFunction = 1,
-    kEnteringParametric = 2,
-    kEnteringPolar = 3,
-    kEnteringInequality = 4,
-    kEnteringImpliedFunction = 5,
-};
 
 /// The logic behind every keyboard screen: turns key presses into edits of a line, evaluates it or stores it
 /// as an equation. Mode 0 is the calculator itself; the other modes are pushed by the equation editors and
@@ -115,7 +106,6 @@ public:
 private:
     void displayTableViewButtonPressed(const Notification& notification);
     void endPressCounts();
-    void insertTokens(const std::string& text);
     void insertElement(TokenElement token);
     void playClick() const;
     void typeWithoutKey(const std::string& text);

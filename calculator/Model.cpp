@@ -108,12 +108,12 @@ int Model::keyboardGeometry() const {
 
 int Model::fontSizeMode() const { return fontSizeModeForGeometry(keyboardGeometry()); }
 
-double Model::xMaxForGraph() {
+double Model::xMaxForGraph() const {
     repairMaximum(m_xMaxForGraph, m_xMinForGraph);
     return m_xMaxForGraph;
 }
 
-double Model::yMaxForGraph() {
+double Model::yMaxForGraph() const {
     repairMaximum(m_yMaxForGraph, m_yMinForGraph);
     return m_yMaxForGraph;
 }
@@ -155,7 +155,7 @@ std::shared_ptr<ViewController> Model::currentEquationsViewController() {
     return m_equationsEditor;
 }
 
-bool Model::explainFailureToGraph() {
+bool Model::explainFailureToGraph() const {
     if (m_graphType != 0) {
         return false;
     }
@@ -179,11 +179,7 @@ bool Model::shouldShowSettingsTip() const {
 
 std::optional<PropertyList> Model::valueForKey(std::string_view key) const {
     const ModelProperty* property = modelProperty(key);
-    if (!property) {
-        return std::nullopt;
-    }
-    // Reading a maximum may repair it.
-    return property->get(const_cast<Model&>(*this));
+    return property ? std::optional(property->get(*this)) : std::nullopt;
 }
 
 bool Model::setValueForKey(std::string_view key, const PropertyList& value) {

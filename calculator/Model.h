@@ -93,11 +93,11 @@ public:
     // is NaN it is left as it is.
     double xMinForGraph() const { return m_xMinForGraph; }
     void setXMinForGraph(double value) { m_xMinForGraph = value; }
-    double xMaxForGraph();
+    double xMaxForGraph() const;
     void setXMaxForGraph(double value) { m_xMaxForGraph = value; }
     double yMinForGraph() const { return m_yMinForGraph; }
     void setYMinForGraph(double value) { m_yMinForGraph = value; }
-    double yMaxForGraph();
+    double yMaxForGraph() const;
     void setYMaxForGraph(double value) { m_yMaxForGraph = value; }
     /// y from -10 to 10, x from -10 to 10.062695924764892.
     void resetGraphBounds();
@@ -124,7 +124,7 @@ public:
     bool sameScaleXAndY() const { return m_sameScaleXAndY; }
     void setSameScaleXAndY(bool on) { m_sameScaleXAndY = on; }
     /// True when the graph type is 0 and no equation can be drawn.
-    bool explainFailureToGraph();
+    bool explainFailureToGraph() const;
 
     // Unit converter.
     bool unitConverterIsPushed() const { return m_unitConverterIsPushed; }
@@ -191,9 +191,9 @@ private:
     int m_orientationMode = 0;
     // The uneven right edge is what users' graphs have always started with; keep every digit.
     double m_xMinForGraph = -10;
-    double m_xMaxForGraph = 10.062695924764892;
+    mutable double m_xMaxForGraph = 10.062695924764892; // repaired when read
     double m_yMinForGraph = -10;
-    double m_yMaxForGraph = 10;
+    mutable double m_yMaxForGraph = 10; // repaired when read
     double m_tStartForParametricGraph = 0;
     double m_tEndForParametricGraph = 1;
     double m_thetaStartForPolarGraph = 0;

@@ -19,7 +19,7 @@ bool asBoolean(const PropertyList& value) {
 template <auto get, auto set> constexpr ModelProperty boolean(std::string_view key) {
     return {.key = key,
             .type = PropertyType::Boolean,
-            .get = [](Model& model) { return PropertyList((model.*get)()); },
+            .get = [](const Model& model) { return PropertyList((model.*get)()); },
             .set = [](Model& model, const PropertyList& value) { (model.*set)(asBoolean(value)); },
             .minimum = 0,
             .maximum = 1};
@@ -29,7 +29,7 @@ template <auto get, auto set>
 constexpr ModelProperty integer(std::string_view key, int minimum, int maximum) {
     return {.key = key,
             .type = PropertyType::Integer,
-            .get = [](Model& model) { return PropertyList((model.*get)()); },
+            .get = [](const Model& model) { return PropertyList((model.*get)()); },
             .set =
                 [](Model& model, const PropertyList& value) {
                     (model.*set)(static_cast<int>(value.asInteger().value_or(0)));
@@ -42,7 +42,7 @@ template <auto get, auto set> constexpr ModelProperty number(std::string_view ke
     return {
         .key = key,
         .type = PropertyType::Number,
-        .get = [](Model& model) { return PropertyList((model.*get)()); },
+        .get = [](const Model& model) { return PropertyList((model.*get)()); },
         .set = [](Model& model, const PropertyList& value) { (model.*set)(value.asDouble().value_or(0)); }};
 }
 

@@ -16,13 +16,13 @@ enum class PropertyType : unsigned char { Boolean, Integer, Number };
 struct ModelProperty {
     std::string_view key; ///< the property's name
     PropertyType type;
-    PropertyList (*get)(Model&);
+    PropertyList (*get)(const Model&);
     void (*set)(Model&, const PropertyList&); ///< the value must have passed `accepts`
     double minimum = -std::numeric_limits<double>::max();
     double maximum = std::numeric_limits<double>::max();
 };
 
-/// All of them, in the order in which settings and files list them.
+/// All of them, once each.
 std::span<const ModelProperty> modelProperties();
 
 /// The property of that key, or null.

@@ -16,6 +16,9 @@ public:
     static std::unique_ptr<Expression> newErrorExpressionWithString(std::string_view text);
 
     const std::string& errorString() const { return m_errorString; }
+    // In a line being parsed it stands for a constant that cannot be used: an operand like any constant, so
+    // that a product with it is a product and keeps the message.
+    bool canBeFollowedByImpliedMultiplication() const override { return true; }
     void describe(DescriptionWriter& writer) const override;
 
 private:

@@ -111,6 +111,9 @@ void ExpressionList::addExpressionTokenArray(TokenArray tokens) {
 
 bool ExpressionList::setExpressionAtIndex(int index, const ExpressionWithTokenArray& entry,
                                           bool checkForRecursion) {
+    if (index < 0) {
+        return false;
+    }
     while (nExpressions() <= index) {
         m_entries.push_back(std::make_unique<ExpressionWithTokenArray>());
     }

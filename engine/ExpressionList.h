@@ -58,6 +58,7 @@ public:
     void addExpressionTokenArray(TokenArray tokens);
     /// Stores a copy of the entry, growing the list up to it. With the check, an entry that would call
     /// itself, directly or through others, is refused: the former one stays and the result is false.
+    /// So it is for a negative index.
     bool setExpressionAtIndex(int index, const ExpressionWithTokenArray& entry, bool checkForRecursion);
 
     /// The saved form: one element an entry.

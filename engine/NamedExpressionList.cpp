@@ -14,7 +14,7 @@ NamedExpressionList::NamedExpressionList(int max, int n)
     : ExpressionList(max, n), m_names(static_cast<std::size_t>(std::max(n, 0))) {}
 
 void NamedExpressionList::setNameArray(std::vector<std::string> names) {
-    names.resize(std::min(names.size(), static_cast<std::size_t>(std::max(maxExpressions(), 0))));
+    names.resize(static_cast<std::size_t>(std::max(maxExpressions(), 0)));
     m_names = std::move(names);
 }
 

@@ -15,7 +15,7 @@ public:
 
     /// One name an entry; the empty text where the user gave none.
     const std::vector<std::string>& nameArray() const { return m_names; }
-    /// At most as many names as the list's capacity are kept.
+    /// Cut to the list's capacity where long, padded with empty texts where short.
     void setNameArray(std::vector<std::string> names);
     void setNameAtIndex(int index, std::string name);
 

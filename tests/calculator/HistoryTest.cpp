@@ -98,6 +98,8 @@ TEST_F(HistoryTest, rowLayout) {
     cell.setRightButtonWidthMultiplier(2);
     cell.layout({320, 59});
     EXPECT_EQ(cell.rightButtonFrame(), (Rect{160, 0, 160, 59}));
+    cell.layout({320, 40});
+    EXPECT_EQ(cell.outputLabel().fontSize, 600.0 / 38); // the product first, which rounds only once
 }
 
 } // namespace

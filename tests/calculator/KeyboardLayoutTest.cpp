@@ -255,6 +255,23 @@ TEST(ButtonGridTest, doubleKeyInTheLowerLeft) {
     EXPECT_EQ(grid.frameForButtonAtIndex(10), (Rect{78, 42, 19, 16}));
 }
 
+TEST(CalculatorButtonTest, titlesAreSplitAtBlanksAndJoinedAgain) {
+    const struct {
+        const char* title;
+        Texts alternatives;
+    } cases[] = {
+        {"7", {"7"}},      {"e E", {"e", "E"}}, {"", {""}}, {"a b c", {"a", "b", "c"}},
+        {" π", {"", "π"}}, {"π ", {"π", ""}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.title);
+        const auto button = CalculatorButton::newButton({});
+        button->setTitleString(c.title);
+        EXPECT_EQ(button->titleArray(), c.alternatives);
+        EXPECT_EQ(button->titleString(), c.title);
+    }
+}
+
 TEST_F(KeyboardLayoutTest, existingKeysOfAnotherNumberAreAFault) {
     ButtonLayout layout;
     layout.addGrid(ButtonGrid({0, 0, 40, 20}, 2, 1, 0, 0));

@@ -29,17 +29,13 @@ Item {
     Text {
         id: line
 
-        // Where the last line ends, for the caret behind it.
-        property real endX: 0
-        property real endY: 0
-
         anchors.fill: parent
         text: root.label.text
         font: root.label.font
         color: root.label.textColor
         textFormat: Text.PlainText
         horizontalAlignment: root.label.alignment
-        verticalAlignment: root.label.lineCount === 1 ? Text.AlignVCenter : Text.AlignTop
+        verticalAlignment: Text.AlignVCenter
         elide: root.label.elide
         wrapMode: root.label.lineCount === 1 ? Text.NoWrap : Text.WrapAnywhere
         maximumLineCount: root.label.lineCount
