@@ -40,7 +40,9 @@ ComplexValue evaluateAt(const Expression& tree, ComplexValue z, EvaluationBudget
     return isReal(z) ? evaluateAtReal(tree, z.real(), budget) : evaluateTreeAt(tree, z, budget);
 }
 
-ComplexValue evaluateAtReal(const Expression& tree, double x, EvaluationBudget* budget) {
+// Out of line: merged into the above, GCC joins both parts of z in memory to read one of them back, and the
+// wait for that costs more than most curves.
+[[gnu::noinline]] ComplexValue evaluateAtReal(const Expression& tree, double x, EvaluationBudget* budget) {
     if (!tree.isFunction()) {
         return evaluateTreeAt(tree, x, budget);
     }

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "engine/Environment.h"
+#include "engine/Expression.h"
+#include "engine/ExpressionList.h"
+#include "engine/NamedExpressionList.h"
+#include "engine/TokenElement.h"
+
+#include <memory>
+#include <sstream>
+#include <string>
+
+namespace velmora {
+
+/// The tokens of a line written with blanks between them; "''" is the empty token.
+inline TokenArray tokens(const std::string& line) {
+    TokenArray array;
+    std::istringstream stream(line);
+    for (std::string text; stream >> text;) {
+        array.emplace_back(Token(text == "''" ? std::string() : text));
+    }
+    return array;
+}
+
+inline TokenArray repeated(const std::string& text, int count) {
+    return TokenArray(static_cast<std::size_t>(count), tokens(text).front());
+}
+
+inline std::unique_ptr<Expression> parsed(const std::string& line) {
+    return Expression::newExpressionWithTokens(tokens(line));
+}
+
+/// What the line shows as its result.
+inline std::string shown(const std::string& line) { return parsed(line)->formattedValueOrErrorDescription(); }
+
+inline ComplexValue valueAt(const std::string& line, ComplexValue z) {
+    return parsed(line)->valueWithVariableValue(z);
+}
+
+/// Equations and constants of a user, installed for as long as it lives.
+struct Definitions {
+    Definitions() {
+        equations.setFunctionName("y");
+        equations.setVariableNameString("x");
+        constants.setFunctionName("@k");
+        environment.equationsList = &equations;
+        environment.constantsList = &constants;
+    }
+    /// As a file brings a definition in: stored without asking whether it leads round a circle.
+    void load(ExpressionList& list, int index, const std::string& line) {
+        list.setExpressionAtIndex(index, ExpressionWithTokenArray(tokens(line)), false);
+    }
+    bool store(ExpressionList& list, int index, const std::string& line) {
+        return list.setExpressionAtIndex(index, ExpressionWithTokenArray(tokens(line)), true);
+    }
+
+    PlainEnvironment environment;
+    ExpressionList equations{4};
+    NamedExpressionList constants{50};
+
+private:
+    EnvironmentScope m_scope{environment};
+};
+
+} // namespace velmora
