@@ -248,7 +248,7 @@ void KeyboardViewController::buttonPressedWithText(const std::string& text) {
         }
         return;
     }
-    m_displayModel->insertTokenArray(tokenArrayWithString(text));
+    m_displayModel->insertTokenArray(Token::tokenArrayWithString(text));
 }
 
 void KeyboardViewController::insertElement(TokenElement token) {

@@ -2,6 +2,7 @@
 
 #include "engine/Environment.h"
 #include "engine/NamedExpressionList.h"
+#include "engine/TokenElement.h"
 #include "platform/KeyedArchive.h"
 #include "platform/Utf8.h"
 
@@ -23,6 +24,17 @@ std::string nameOfConstant(std::string_view token) {
 }
 
 } // namespace
+
+TokenArray Token::tokenArrayWithString(std::string_view text) {
+    std::size_t length = text.size();
+    while (length > 0 && text[length - 1] == ',') {
+        --length;
+    }
+    TokenArray tokens;
+    tokens.emplace_back(Token(std::string(text.substr(0, length))));
+    tokens.insert(tokens.end(), text.size() - length, TokenElement(Token(",")));
+    return tokens;
+}
 
 bool Token::isUserDefinedConstant() const { return m_text.starts_with("@k"); }
 

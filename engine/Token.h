@@ -5,11 +5,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velmora {
 
 class KeyedArchiver;
 class KeyedUnarchiver;
+class TokenElement;
+using TokenArray = std::vector<TokenElement>;
 
 /// One key's worth of input: a digit, an operator, a variable, a function with its opening parenthesis,
 /// or a constant. Everything a token does follows from its one text.
@@ -19,6 +22,11 @@ public:
     static Token tokenWithString(std::string text) { return Token(std::move(text)); }
     /// The mark that stands for the cursor in display texts.
     static Token cursorToken() { return Token("_"); }
+
+    /// The tokens that a key or list entry inserts. Trailing commas become tokens of their own, so
+    /// "normVarBetween(,," is the function followed by the separators that its arguments need.
+    /// The text must hold something other than commas.
+    static TokenArray tokenArrayWithString(std::string_view text);
 
     const std::string& internalRepresentation() const { return m_text; }
     const std::string& description() const { return m_text; }

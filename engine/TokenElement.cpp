@@ -80,17 +80,6 @@ std::optional<TokenElement> TokenElement::unarchived(const PropertyList& list) {
     return std::nullopt;
 }
 
-TokenArray tokenArrayWithString(std::string_view text) {
-    std::size_t length = text.size();
-    while (length > 0 && text[length - 1] == ',') {
-        --length;
-    }
-    TokenArray tokens;
-    tokens.emplace_back(Token(std::string(text.substr(0, length))));
-    tokens.insert(tokens.end(), text.size() - length, TokenElement(Token(",")));
-    return tokens;
-}
-
 TokenArray textsOfCharacters(std::string_view text) {
     TokenArray texts;
     for (std::string& character : splitCodePoints(text)) {

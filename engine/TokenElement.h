@@ -45,11 +45,6 @@ private:
 /// The stored form of everything the user types.
 using TokenArray = std::vector<TokenElement>;
 
-/// The tokens that a key or list entry inserts. Trailing commas become tokens of their own, so
-/// "normVarBetween(,," is the function followed by the separators that its arguments need.
-/// The text must hold something other than commas.
-TokenArray tokenArrayWithString(std::string_view text);
-
 /// One plain text per character.
 TokenArray textsOfCharacters(std::string_view text);
 /// Replaces every plain text by a token of that text.

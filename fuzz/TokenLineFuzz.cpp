@@ -130,7 +130,7 @@ void apply(ExpressionWithTokenArray& line, std::uint8_t byte) {
         line.moveCursorTo(line.count());
         return;
     case 252:
-        line.insertTokenArray(tokenArrayWithString("normVarBetween(,,"));
+        line.insertTokenArray(Token::tokenArrayWithString("normVarBetween(,,"));
         return;
     case 251:
         line.insertToken(NamedExpression(std::make_shared<Number>(ComplexValue(0.1, -2)), "ans"));

@@ -56,7 +56,7 @@ TEST(Token, splitsTrailingCommasOff) {
     };
     for (const auto& [text, expected] : rows) {
         std::string line;
-        for (const TokenElement& element : tokenArrayWithString(text)) {
+        for (const TokenElement& element : Token::tokenArrayWithString(text)) {
             line += (line.empty() ? "" : " ") + element.token()->internalRepresentation();
         }
         EXPECT_EQ(line, expected);
