@@ -57,9 +57,7 @@ void saveCurrentInput() {
 } // namespace
 
 // The runtime of undefined behaviour knows no callback, but can be asked to end with a signal.
-extern "C" const char* __ubsan_default_options() {
-    return "abort_on_error=1";
-}
+extern "C" const char* __ubsan_default_options() { return "abort_on_error=1"; }
 
 namespace {
 
