@@ -13,8 +13,5 @@ int main(int argc, char** argv) {
     }
     QGuiApplication::setApplicationName(QStringLiteral("velmora-tests"));
     const QGuiApplication application(argc, argv);
-    const int result = RUN_ALL_TESTS();
-    // What the scenes left to be deleted later, textures above all, would count as leaked.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return result;
+    return RUN_ALL_TESTS();
 }
