@@ -1,10 +1,10 @@
 // Parsing a line: 50 alternating operands and operators against muParser, and growth with length and depth.
 
+#include "bench/AllocationCount.h"
 #include "bench/Lines.h"
 #include "engine/Expression.h"
 
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 #include <muParser.h>
 
 #include <memory>
@@ -39,12 +39,12 @@ std::string nested(int symbols) {
     return text;
 }
 
-/// The bytes that making a thing leaves allocated.
+/// The bytes that making a thing leaves allocated, as the heap rounds them up.
 template <typename Make> double bytesHeld(Make make) {
-    const std::size_t before = mallinfo2().uordblks;
+    const long before = heldBytes();
     const auto held = make();
     benchmark::DoNotOptimize(held);
-    return static_cast<double>(mallinfo2().uordblks - before);
+    return static_cast<double>(heldBytes() - before);
 }
 
 void parseTokens(benchmark::State& state, const TokenArray& tokens) {

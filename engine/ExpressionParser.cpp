@@ -2,7 +2,6 @@
 // an array of nodes. Every pass is linear in the number of nodes, however deep they nest.
 
 #include "engine/BivarFunction.h"
-#include "engine/EmptyExpression.h"
 #include "engine/ErrorExpression.h"
 #include "engine/ErrorTexts.h"
 #include "engine/Expression.h"
@@ -10,7 +9,6 @@
 #include "engine/Number.h"
 #include "engine/TriFunction.h"
 #include "engine/UnivarFunction.h"
-#include "platform/Log.h"
 
 #include <algorithm>
 #include <iterator>
