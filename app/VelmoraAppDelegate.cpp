@@ -1,15 +1,20 @@
 #include "app/VelmoraAppDelegate.h"
 
 #include "app/Registrations.h"
+#include "calculator/FunctionListScreen.h"
 #include "calculator/KeyboardViewController.h"
 #include "calculator/Model.h"
 #include "platform/Log.h"
 #include "platform/NavigationController.h"
 #include "platform/SavingRegistry.h"
+#include "platform/ScreenRegistry.h"
 #include "platform/Sound.h"
 #include "platform/StaticObjectManager.h"
+#include "resources/CompiledResources.h"
 
+#include <array>
 #include <cstdlib>
+#include <string_view>
 
 namespace velmora {
 
@@ -31,14 +36,60 @@ void warnOfMemoryDebugging() {
     }
 }
 
-/// A tab: the screen inside a stack of its own.
-std::shared_ptr<ViewController> newTab(const std::shared_ptr<ViewController>& root, const char* title,
-                                       const char* image) {
-    root->setTitle(title);
-    root->setTabImage(image);
+/// A tab that is opened by its class name, and has its place as soon as that name is registered.
+struct TabRow {
+    const char* className;
+    const char* title;
+    const char* image;
+    const char* listName = nullptr; ///< what a list screen shows
+    bool inStack = true;
+};
+
+constexpr const char* kEquationsTab = "EquationsViewController";
+constexpr TabRow kSettingsTab{"SettingsViewController", "Settings", "settings.png"};
+
+// The order is fixed, for people learn where a tab stands.
+constexpr std::array kTabs{
+    TabRow{"KeyboardViewController", "Calculator", "calculator.png"},
+    TabRow{kEquationsTab, "Equations", "equation.png"},
+    TabRow{.className = "GraphViewController", .title = "Graph", .image = "graph.png", .inStack = false},
+    TabRow{"FunctionSelectViewController", "Reference", "reference.png", "Reference"},
+    kSettingsTab,
+    TabRow{"FunctionSelectViewController", "Help", "questionMark.png", "Help List"},
+};
+
+std::shared_ptr<ViewController> makeRoot(const TabRow& row) {
+    if (!ScreenRegistry::shared().isRegistered(row.className)) {
+        return nullptr;
+    }
+    // Which editor stands here depends on the kind of graph.
+    if (row.className == std::string_view(kEquationsTab)) {
+        return Model::m().currentEquationsViewController();
+    }
+    auto root = ScreenRegistry::shared().make(row.className);
+    if (auto* list = dynamic_cast<FunctionListScreen*>(root.get())) {
+        list->setFunctionListName(row.listName);
+    }
+    return root;
+}
+
+/// The tab, inside a stack of its own where the row says so; null for a screen that does not exist.
+std::shared_ptr<ViewController> makeTab(const TabRow& row) {
+    auto root = makeRoot(row);
+    if (!root) {
+        return nullptr;
+    }
+    if (root->title().empty()) {
+        root->setTitle(row.title);
+    }
+    root->setTabTitle(row.title);
+    root->setTabImage(row.image);
+    if (!row.inStack) {
+        return root;
+    }
     auto stack = std::make_shared<NavigationController>(root);
-    stack->setTitle(title);
-    stack->setTabImage(image);
+    stack->setTitle(row.title);
+    stack->setTabImage(row.image);
     return stack;
 }
 
@@ -51,11 +102,24 @@ VelmoraAppDelegate::~VelmoraAppDelegate() = default;
 void VelmoraAppDelegate::applicationDidFinishLaunching() {
     prepareSound();
     warnOfMemoryDebugging();
+    registerCompiledResources();
     registerEverything();
 
     m_tabBarController = std::make_shared<TabBarController>();
-    m_calculator = std::make_shared<KeyboardViewController>(kEnteringCalculatorLine);
-    m_tabBarController->setViewControllers({newTab(m_calculator, "Calculator", "calculator.png")});
+    TabBarController::Tabs tabs;
+    for (const TabRow& row : kTabs) {
+        if (auto tab = makeTab(row)) {
+            if (&row == &kTabs.front()) {
+                const auto& stack = dynamic_cast<const NavigationController&>(*tab);
+                m_calculator = std::dynamic_pointer_cast<KeyboardViewController>(stack.rootViewController());
+            }
+            if (row.className == std::string_view(kSettingsTab.className)) {
+                m_tabBarController->setFirstTabBehindMore(tabs.size());
+            }
+            tabs.push_back(std::move(tab));
+        }
+    }
+    m_tabBarController->setViewControllers(std::move(tabs));
     Model::m().setTabBarController(m_tabBarController);
     if (Model::m().unitConverterIsPushed()) {
         m_calculator->unitsButtonPressed();

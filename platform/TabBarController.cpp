@@ -26,7 +26,10 @@ void TabBarController::setViewControllers(Tabs controllers) {
 
 std::size_t TabBarController::visibleTabCount() const {
     const std::size_t capacity = tabBarCapacity(currentDevice().deviceClass());
-    return m_tabs.size() <= capacity ? m_tabs.size() : capacity - 1;
+    if (m_tabs.size() <= std::min(capacity, m_firstTabBehindMore)) {
+        return m_tabs.size();
+    }
+    return std::min(capacity - 1, m_firstTabBehindMore);
 }
 
 std::shared_ptr<ViewController> TabBarController::selectedViewController() const {

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,6 +29,8 @@ public:
 
     /// How many tabs stand in the bar of the device in force, "More" not counted.
     std::size_t visibleTabCount() const;
+    /// The tab from which on all stand behind "More", however much room the bar has; none unless set.
+    void setFirstTabBehindMore(std::size_t index) { m_firstTabBehindMore = index; }
     bool hasMore() const { return visibleTabCount() < m_tabs.size(); }
 
     /// The selected tab, which may be one behind "More"; 0 when there are no tabs.
@@ -69,6 +72,7 @@ private:
 
     Tabs m_tabs;
     std::size_t m_selectedIndex = 0;
+    std::size_t m_firstTabBehindMore = std::numeric_limits<std::size_t>::max();
     bool m_showsMoreList = false;
     std::function<bool(ViewController&)> m_shouldSelect;
     std::function<void(ViewController&)> m_didSelect;

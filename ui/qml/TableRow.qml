@@ -1,0 +1,46 @@
+import QtQuick
+import Velmora
+
+// The ground of a row in a table: its pressed state, its separator, its keyboard focus and what it says
+// aloud. A row places its own texts on it.
+Rectangle {
+    id: root
+
+    property bool selectable: true
+    property string spokenName
+    property string spokenDescription
+    property int spokenRole: Accessible.ListItem
+
+    signal tapped()
+
+    color: selectable && tap.pressed ? Theme.pressed : Theme.surface
+    activeFocusOnTab: selectable
+    Keys.onSpacePressed: if (selectable) tapped()
+    Keys.onReturnPressed: if (selectable) tapped()
+    Keys.onEnterPressed: if (selectable) tapped()
+
+    Accessible.role: spokenRole
+    Accessible.name: spokenName
+    Accessible.description: spokenDescription
+    Accessible.focusable: selectable
+    Accessible.onPressAction: if (selectable) tapped()
+
+    Rectangle {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: Theme.margin }
+        height: 0.5
+        color: Theme.separator
+    }
+    Rectangle {
+        anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
+        width: 3
+        visible: root.activeFocus
+        color: Theme.accent
+    }
+    TapHandler {
+        id: tap
+        enabled: root.selectable
+        gesturePolicy: TapHandler.DragThreshold
+        longPressThreshold: 86400
+        onTapped: root.tapped()
+    }
+}
