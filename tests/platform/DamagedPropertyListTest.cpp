@@ -47,16 +47,6 @@ PropertyData smallList() {
                                                  {"list", PropertyArray{true, "π", PropertyData{1, 2, 3}}}});
 }
 
-TEST(DamagedPropertyList, readsItsOwnHandmadeBytes) {
-    EXPECT_EQ(readPropertyList(binary({"\x51"
-                                       "a"})),
-              PropertyList("a"));
-    EXPECT_EQ(readPropertyList(binary({"\xA2\x01\x01", "\x09"})), PropertyList(PropertyArray{true, true}));
-    EXPECT_EQ(readPropertyList(binary({"\xD1\x01\x02", "\x51k", "\x10\x07"})),
-              PropertyList(PropertyDictionary{{"k", 7}}));
-    EXPECT_EQ(readPropertyList(binary({"\xAF\x10\x01\x01", "\x09"})), PropertyList(PropertyArray{true}));
-}
-
 TEST(DamagedPropertyList, refusesEveryTruncation) {
     const PropertyData whole = smallList();
     for (std::size_t length = 0; length < whole.size(); ++length) {

@@ -1,21 +1,15 @@
-// The small services a machine offers: alerts, sounds, pasteboard, links, device, metrics, clock, random
-// numbers, log, and what each does while nothing is installed.
+// The small services a machine offers: alerts, sounds, pasteboard and random numbers.
 
 #include "platform/Alert.h"
-#include "platform/Clock.h"
-#include "platform/LinkOpener.h"
 #include "platform/Pasteboard.h"
 #include "platform/RandomSource.h"
-#include "platform/ScreenMetrics.h"
 #include "platform/Sound.h"
 #include "platform/StaticObjectManager.h"
-#include "platform/TextMeasure.h"
 #include "tests/platform/LogRecorder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <set>
 
@@ -73,20 +67,6 @@ TEST(StaticObjectManager, loadsEachSoundOnce) {
     manager.reset();
 }
 
-TEST(StaticObjectManager, logsAMissingImageOnce) {
-    StaticObjectManager& manager = StaticObjectManager::shared();
-    manager.reset();
-    const LogRecorder log;
-    manager.registerImage("heart", "artwork/heart.svg");
-    EXPECT_EQ(manager.imageSource("heart"), "artwork/heart.svg");
-    EXPECT_EQ(manager.imageSource("none"), std::nullopt);
-    EXPECT_EQ(manager.imageSource("none"), std::nullopt);
-    EXPECT_EQ(log.lines().size(), 1U);
-    manager.reset();
-    EXPECT_EQ(manager.imageSource("heart"), std::nullopt);
-    manager.reset();
-}
-
 TEST(Pasteboard, holdsRepresentationsByType) {
     PlainPasteboard pasteboard;
     const PasteboardScope scope(pasteboard);
@@ -100,65 +80,6 @@ TEST(Pasteboard, holdsRepresentationsByType) {
     generalPasteboard().setText("new");
     EXPECT_EQ(generalPasteboard().text(), "new");
     EXPECT_EQ(generalPasteboard().data(type), std::nullopt) << "copying replaces everything";
-}
-
-TEST(LinkOpener, saysWhenALinkCannotBeOpened) {
-    const LogRecorder log;
-    EXPECT_FALSE(openLink("https://example.org"));
-    EXPECT_EQ(log.lines().size(), 1U);
-    RecordingLinkOpener opener;
-    const LinkOpenerScope scope(opener);
-    EXPECT_TRUE(openLink("https://example.org"));
-    EXPECT_THAT(opener.opened(), ElementsAre("https://example.org"));
-}
-
-TEST(ScreenMetrics, followDeviceAndOrientation) {
-    struct MetricsCase {
-        DeviceClass deviceClass;
-        Orientation orientation;
-        Size screen;
-        double navigationBar;
-    };
-    const MetricsCase cases[] = {
-        {DeviceClass::Phone, Orientation::Portrait, {320, 568}, 44},
-        {DeviceClass::Phone, Orientation::LandscapeRight, {568, 320}, 32},
-        {DeviceClass::Tablet, Orientation::PortraitUpsideDown, {768, 1024}, 44},
-        {DeviceClass::Tablet, Orientation::LandscapeLeft, {1024, 768}, 44},
-    };
-    for (const MetricsCase& c : cases) {
-        PlainDevice device(c.deviceClass, c.orientation);
-        const DeviceScope scope(device);
-        EXPECT_EQ(screenMetrics().screenSize(), c.screen);
-        EXPECT_EQ(screenMetrics().navigationBarHeight(c.orientation), c.navigationBar);
-    }
-    PlainScreenMetrics metrics;
-    metrics.setPortraitScreenSize({320, 480});
-    const ScreenMetricsScope scope(metrics);
-    EXPECT_EQ(screenMetrics().screenSize(), (Size{320, 480}));
-}
-
-TEST(InstallScope, nestsAndRestores) {
-    PlainDevice tablet(DeviceClass::Tablet);
-    PlainDevice phone(DeviceClass::Phone);
-    const DeviceScope outer(tablet);
-    {
-        const DeviceScope inner(phone);
-        EXPECT_FALSE(isTablet());
-    }
-    EXPECT_TRUE(isTablet());
-}
-
-TEST(Clock, standsStillOrRuns) {
-    const double earlier = monotonicSeconds();
-    EXPECT_GE(monotonicSeconds(), earlier);
-    const CalendarTime now = currentClock().now();
-    EXPECT_GE(now.year, 2024);
-    EXPECT_TRUE(now.month >= 1 && now.month <= 12 && now.day >= 1 && now.day <= 31);
-    ManualClock clock;
-    const ClockScope scope(clock);
-    clock.advance(1.5);
-    clock.advance(-1);
-    EXPECT_EQ(monotonicSeconds(), 1.5);
 }
 
 TEST(RandomSource, usesTheInstalledSourceForAScope) {
@@ -180,11 +101,6 @@ TEST(RandomSource, usesTheInstalledSourceForAScope) {
     EXPECT_GT(drawn.size(), 190U);
     EXPECT_EQ(everSet, ~std::uint32_t{0}) << "all 32 bits vary";
     EXPECT_EQ(alwaysSet, 0U);
-}
-
-TEST(TextMeasure, countsCodePointsInThePlainFace) {
-    EXPECT_DOUBLE_EQ(textWidth("2θπ", 10), 18);
-    EXPECT_DOUBLE_EQ(textLineHeight(10), 12);
 }
 
 } // namespace

@@ -73,19 +73,6 @@ TEST_F(Navigation, runsTheHooksInOrder) {
     }
 }
 
-TEST_F(Navigation, tellsWhetherAChangeIsAnimated) {
-    const LogRecorder log;
-    std::vector<bool> animated;
-    const Subscription subscription =
-        stack.stackChanged().subscribe([&](bool value) { animated.push_back(value); });
-    stack.push(screen("b"), false);
-    stack.push(screen("c"));
-    stack.popTo(*a, false);
-    stack.pop();         // the root stays
-    stack.push(nullptr); // ignored
-    EXPECT_THAT(animated, ElementsAre(false, true, false));
-}
-
 TEST_F(Navigation, refusesWhatCannotBeStacked) {
     const LogRecorder log;
     const auto b = screen("b");
@@ -129,17 +116,6 @@ TEST_F(Navigation, letsAScreenCloseItself) {
     EXPECT_TRUE(weak.expired()) << "it goes when the button's action is over";
 }
 
-TEST_F(Navigation, letsAScreenCloseItselfOutsideAnyEvent) {
-    stack.push(screen("b"));
-    ViewController* plain = stack.topViewController().get();
-    const std::weak_ptr<ViewController> weak = stack.topViewController();
-    stack.pop();
-    stack.push(screen("c"));
-    plain->setTitle("still here");
-    stack.pop();
-    EXPECT_TRUE(weak.expired()) << "it goes when the next screen leaves";
-}
-
 TEST_F(Navigation, keepsScreensUntilTheOutermostEventEnds) {
     stack.push(screen("b"));
     const std::weak_ptr<ViewController> weak = stack.topViewController();
@@ -179,18 +155,6 @@ TEST_F(Navigation, survivesHooksThatChangeTheStack) {
     EXPECT_THAT(stack.viewControllers(), ElementsAre(a, c, d));
     EXPECT_TRUE(d->isVisible());
     EXPECT_FALSE(c->isVisible());
-}
-
-TEST_F(Navigation, asksTheTopScreenAboutTurning) {
-    const auto b = screen("b");
-    b->allowed = Orientation::LandscapeLeft;
-    stack.push(b);
-    EXPECT_TRUE(stack.shouldAutorotate(Orientation::LandscapeLeft));
-    EXPECT_FALSE(stack.shouldAutorotate(Orientation::Portrait));
-    events.clear();
-    stack.willAnimateRotation(Orientation::LandscapeLeft);
-    stack.didRotate(Orientation::Portrait);
-    EXPECT_THAT(events, ElementsAre("b willRotate", "b didRotate"));
 }
 
 } // namespace

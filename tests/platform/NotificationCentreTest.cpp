@@ -38,14 +38,6 @@ TEST_F(Notifications, reachThoseWhoAskedForNameAndObject) {
     EXPECT_THAT(heard, ElementsAre("all", "all"));
 }
 
-TEST_F(Notifications, carryTheirInformation) {
-    PropertyDictionary information;
-    const Subscription subscription = centre.addObserver(
-        "pressed", [&](const Notification& notification) { information = notification.userInfo; });
-    centre.post("pressed", nullptr, {{"tag", 7}});
-    EXPECT_EQ(information, (PropertyDictionary{{"tag", 7}}));
-}
-
 TEST_F(Notifications, allowObserversToComeAndGoDuringADelivery) {
     std::optional<Subscription> added;
     Subscription last;
@@ -67,18 +59,6 @@ TEST_F(Notifications, allowObserversToComeAndGoDuringADelivery) {
     heard.clear();
     centre.post("n");
     EXPECT_THAT(heard, ElementsAre("first", "added"));
-}
-
-TEST_F(Notifications, mayBePostedWithinADelivery) {
-    int depth = 0;
-    const Subscription subscription = centre.addObserver("n", [&](const Notification&) {
-        heard.push_back(std::to_string(depth));
-        if (++depth < 3) {
-            centre.post("n");
-        }
-    });
-    centre.post("n");
-    EXPECT_THAT(heard, ElementsAre("0", "1", "2"));
 }
 
 TEST_F(Notifications, endWithTheSubscriptionOrTheReset) {

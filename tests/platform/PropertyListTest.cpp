@@ -1,6 +1,5 @@
 #include "platform/PropertyList.h"
 
-#include "tests/platform/LogRecorder.h"
 #include "tests/platform/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -117,12 +116,6 @@ TEST(PropertyList, replacesWhatTextCannotHold) {
     }
 }
 
-TEST(PropertyList, refusesToWriteWhatItCouldNotRead) {
-    const LogRecorder log;
-    EXPECT_TRUE(binaryPropertyList(nested(kMaximumPropertyListDepth + 1)).empty());
-    EXPECT_EQ(log.lines().size(), 1U);
-}
-
 TEST(PropertyList, readsXml) {
     struct XmlCase {
         std::string content;
@@ -188,16 +181,6 @@ TEST(PropertyList, refusesXmlThatIsNone) {
     }
 }
 
-TEST(PropertyList, readsXmlNestedUpToTheLimit) {
-    std::string opening;
-    std::string closing;
-    for (int level = 0; level < kMaximumPropertyListDepth; ++level) {
-        opening += "<array>";
-        closing += "</array>";
-    }
-    EXPECT_TRUE(readPropertyList(xml(opening + closing)));
-}
-
 /// Puts a locale in force whose decimal mark is a comma, made from the machine's plain one.
 class DecimalCommaLocale {
 public:
@@ -232,15 +215,6 @@ TEST(PropertyList, doesNotDependOnTheLocale) {
     }
     EXPECT_EQ(readPropertyList(xml("<real>2.75</real>")), PropertyList(2.75));
     EXPECT_EQ(std::strtod("1,5", nullptr), 1.5) << "the locale in force must come back";
-}
-
-TEST(PropertyList, convertsNothingButWholeNumbersToDoubles) {
-    EXPECT_EQ(PropertyList(3).asDouble(), 3.0);
-    EXPECT_EQ(PropertyList(3.0).asInteger(), std::nullopt);
-    EXPECT_EQ(PropertyList(true).asInteger(), std::nullopt);
-    EXPECT_EQ(PropertyList(1).asBool(), std::nullopt);
-    EXPECT_EQ(PropertyList("3").asDouble(), std::nullopt);
-    EXPECT_EQ(PropertyList("3").asArray(), nullptr);
 }
 
 } // namespace

@@ -1,17 +1,12 @@
-// What is found by name: resources, screens, savers, settings targets; and keyed archives.
+// What is found by name: resources and savers; and keyed archives.
 
 #include "platform/KeyedArchive.h"
 #include "platform/Resources.h"
 #include "platform/SavingRegistry.h"
-#include "platform/ScreenRegistry.h"
-#include "platform/SettingsTargetRegistry.h"
 #include "tests/platform/LogRecorder.h"
-#include "tests/platform/RecordingScreen.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <cmath>
 
 namespace velmora {
 namespace {
@@ -39,23 +34,6 @@ TEST(Resources, readPropertyListsAndLogWhatTheyCannot) {
     EXPECT_EQ(findResource("Notes.txt"), "plain θ");
 }
 
-TEST(ScreenRegistry, makesANewScreenEachTime) {
-    ScreenRegistry& registry = ScreenRegistry::shared();
-    registry.reset();
-    const LogRecorder log;
-    Events events;
-    registry.registerScreen("A", [&] { return std::make_shared<RecordingScreen>("a", events); });
-    registry.registerScreen("Empty", nullptr);
-    const auto first = registry.make("A");
-    const auto second = registry.make("A");
-    EXPECT_TRUE(first && second && first != second);
-    EXPECT_EQ(registry.make("Empty"), nullptr);
-    EXPECT_EQ(registry.make("B"), nullptr);
-    EXPECT_THAT(log.lines(), ElementsAre("screen not registered: Empty", "screen not registered: B"));
-    registry.reset();
-    EXPECT_FALSE(registry.isRegistered("A"));
-}
-
 TEST(SavingRegistry, runsEachSaverOnceInOrder) {
     SavingRegistry& registry = SavingRegistry::shared();
     registry.reset();
@@ -71,24 +49,6 @@ TEST(SavingRegistry, runsEachSaverOnceInOrder) {
     registry.reset();
     registry.saveAll();
     EXPECT_EQ(saved.size(), 2U);
-}
-
-TEST(SettingsTargetRegistry, findsTargetsByName) {
-    struct Target final : SettingsTarget {
-        std::optional<PropertyList> valueForKey(std::string_view) const override { return std::nullopt; }
-        bool setValueForKey(std::string_view, const PropertyList&) override { return false; }
-    };
-    SettingsTargetRegistry& registry = SettingsTargetRegistry::shared();
-    registry.reset();
-    const LogRecorder log;
-    Target former;
-    Target latter;
-    registry.registerTarget("Model", former);
-    registry.registerTarget("Model", latter);
-    EXPECT_EQ(registry.find("Model"), &latter);
-    EXPECT_EQ(registry.find("Other"), nullptr);
-    EXPECT_EQ(log.lines().size(), 1U);
-    registry.reset();
 }
 
 TEST(KeyedArchive, tellsAbsentFromZeroAndFromOtherTypes) {
@@ -117,12 +77,6 @@ TEST(KeyedArchive, tellsAbsentFromZeroAndFromOtherTypes) {
     ASSERT_TRUE(unarchiver.array("list"));
     EXPECT_EQ(unarchiver.array("list")->size(), 2U);
     EXPECT_EQ(unarchiver.array("half"), nullptr);
-}
-
-TEST(KeyedArchive, readsAnythingButADictionaryAsEmpty) {
-    for (const PropertyList& list : {PropertyList(), PropertyList("text"), PropertyList(PropertyArray{1})}) {
-        EXPECT_FALSE(KeyedUnarchiver(list).containsValueForKey("key"));
-    }
 }
 
 } // namespace

@@ -45,6 +45,8 @@ TEST(TabBarCapacity, gathersUnderMoreWhatDoesNotFit) {
         EXPECT_EQ(bar.visibleTabCount(), c.visible) << c.tabs;
         EXPECT_EQ(bar.hasMore(), c.more) << c.tabs;
         EXPECT_EQ(bar.showMoreList(), c.more) << c.tabs;
+        bar.setFirstTabBehindMore(3); // though the bar has room
+        EXPECT_EQ(bar.visibleTabCount(), std::min<std::size_t>(c.tabs, 3)) << c.tabs;
     }
 }
 

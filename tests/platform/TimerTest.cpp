@@ -55,27 +55,6 @@ TEST_F(Timers, stopWithTheirSubscription) {
     EXPECT_EQ(service.pendingCount(), 0U);
 }
 
-TEST_F(Timers, startedByACallbackRunInTheSameSpan) {
-    Subscription inner;
-    const Subscription outer = startTimer(1, TimerKind::OneShot, [&] {
-        fired.emplace_back("outer");
-        inner = startTimer(1, TimerKind::OneShot, record("inner"));
-    });
-    EXPECT_THAT(advance(1.5), ElementsAre("outer"));
-    EXPECT_THAT(advance(0.5), ElementsAre("inner"));
-}
-
-TEST_F(Timers, withoutDelayTakeTurnsWithTheEvents) {
-    std::vector<Subscription> slices;
-    std::function<void()> slice = [&] {
-        fired.emplace_back("slice");
-        slices.push_back(startTimer(0, TimerKind::OneShot, slice));
-    };
-    slices.push_back(startTimer(0, TimerKind::OneShot, slice));
-    EXPECT_THAT(advance(0), ElementsAre("slice"));
-    EXPECT_THAT(advance(5), ElementsAre("slice"));
-}
-
 TEST_F(Timers, bearUselessDelays) {
     const double notANumber = std::numeric_limits<double>::quiet_NaN();
     const Subscription negative = startTimer(-1, TimerKind::OneShot, record("negative"));

@@ -7,43 +7,6 @@
 namespace velmora {
 namespace {
 
-TEST(ViewController, tellsOnlyOfRealChanges) {
-    Events events;
-    RecordingScreen screen("a", events);
-    int changes = 0;
-    const Subscription subscription = screen.changed().subscribe([&] { ++changes; });
-    struct Step {
-        std::function<void()> run;
-        int changes;
-    };
-    const Step steps[] = {
-        {[&] { screen.setTitle("Graph"); }, 1},
-        {[&] { screen.setTitle("Graph"); }, 1},
-        {[&] { screen.setHidesNavigationBar(true); }, 2},
-        {[&] { screen.setHidesNavigationBar(true); }, 2},
-        {[&] {
-             screen.setRightBarButtons({{"Save", {}}});
-         },
-         3},
-    };
-    for (const Step& step : steps) {
-        step.run();
-        EXPECT_EQ(changes, step.changes);
-    }
-}
-
-TEST(ViewController, fallsBackToItsTitle) {
-    Events events;
-    RecordingScreen screen("a", events);
-    screen.setTitle("Polynomial Solvers");
-    EXPECT_EQ(screen.tabTitle(), "Polynomial Solvers");
-    EXPECT_EQ(screen.backButtonTitle(), "Polynomial Solvers");
-    screen.setTabTitle("Solvers");
-    screen.setBackButtonTitle("Back");
-    EXPECT_EQ(screen.tabTitle(), "Solvers");
-    EXPECT_EQ(screen.backButtonTitle(), "Back");
-}
-
 TEST(ViewController, pressesBarButtonsAsAUserCan) {
     Events events;
     RecordingScreen screen("a", events);
