@@ -1,0 +1,99 @@
+#include "ui/QtDrawingContext.h"
+
+#include "ui/QtConversions.h"
+
+#include <QPainter>
+
+#include <cmath>
+#include <optional>
+
+namespace velmora {
+
+namespace {
+
+bool isFinite(Point point) { return std::isfinite(point.x) && std::isfinite(point.y); }
+
+/// The part of the line from a to b that lies within the bounds (Liang and Barsky, 1984); nothing when none
+/// does. The rasterizer's own clipping loses lines whose ends lie very far away.
+std::optional<QLineF> clipped(Point a, Point b, const Rect& bounds) {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    double enter = 0;
+    double leave = 1;
+    const auto cut = [&](double speed, double distance) {
+        if (speed == 0) {
+            return distance >= 0;
+        }
+        const double when = distance / speed;
+        if (speed < 0) {
+            enter = std::max(enter, when);
+        } else {
+            leave = std::min(leave, when);
+        }
+        return enter <= leave;
+    };
+    if (!cut(-dx, a.x - bounds.x) || !cut(dx, bounds.x + bounds.width - a.x) || !cut(-dy, a.y - bounds.y) ||
+        !cut(dy, bounds.y + bounds.height - a.y)) {
+        return std::nullopt;
+    }
+    return QLineF(a.x + enter * dx, a.y + enter * dy, a.x + leave * dx, a.y + leave * dy);
+}
+
+} // namespace
+
+QtDrawingContext::QtDrawingContext(QPainter& painter, const Rect& bounds)
+    : m_painter(painter), m_bounds(bounds) {
+    m_painter.setRenderHint(QPainter::Antialiasing);
+}
+
+void QtDrawingContext::setLineWidth(double width) { m_lineWidth = width; }
+
+void QtDrawingContext::setStrokeColor(const Color& color) { m_strokeColor = color; }
+
+void QtDrawingContext::setFillColor(const Color& color) { m_fillColor = color; }
+
+void QtDrawingContext::moveTo(Point point) {
+    m_pen = point;
+    m_penIsDown = isFinite(point);
+}
+
+void QtDrawingContext::lineTo(Point point) {
+    if (m_penIsDown && isFinite(point)) {
+        const Rect reach{m_bounds.x - m_lineWidth, m_bounds.y - m_lineWidth, m_bounds.width + 2 * m_lineWidth,
+                         m_bounds.height + 2 * m_lineWidth};
+        if (const auto line = clipped(m_pen, point, reach)) {
+            m_lines.append(*line);
+        }
+    }
+    moveTo(point);
+}
+
+void QtDrawingContext::strokePath() {
+    if (!m_lines.isEmpty()) {
+        // Opaque lines meet with square ends, which closes the corners between them; lines that shine
+        // through stay flat, or they would be darker where they overlap.
+        const Qt::PenCapStyle cap = m_strokeColor.alpha < 1 ? Qt::FlatCap : Qt::SquareCap;
+        m_painter.setPen(QPen(toQColor(m_strokeColor), m_lineWidth, Qt::SolidLine, cap));
+        m_painter.drawLines(m_lines);
+        m_lines.clear();
+    }
+    m_penIsDown = false;
+}
+
+void QtDrawingContext::strokeEllipse(const Rect& rect) {
+    m_painter.setPen(QPen(toQColor(m_strokeColor), m_lineWidth));
+    m_painter.setBrush(Qt::NoBrush);
+    m_painter.drawEllipse(toQRectF(rect));
+}
+
+void QtDrawingContext::fillEllipse(const Rect& rect) {
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(toQColor(m_fillColor));
+    m_painter.drawEllipse(toQRectF(rect));
+}
+
+void QtDrawingContext::fillRect(const Rect& rect) {
+    m_painter.fillRect(toQRectF(rect), toQColor(m_fillColor));
+}
+
+} // namespace velmora

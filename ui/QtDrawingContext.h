@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/DrawingContext.h"
+
+#include <QLineF>
+#include <QList>
+
+class QPainter;
+
+namespace velmora {
+
+/// Draws on a painter whose unit is the point. A path is drawn as a run of separate lines: one long path of
+/// thousands of steep segments takes Qt's rasterizer over a second, the same lines milliseconds.
+class QtDrawingContext final : public DrawingContext {
+public:
+    /// The painter must outlive this. Lines are cut to the bounds, with a margin for their width.
+    QtDrawingContext(QPainter& painter, const Rect& bounds);
+
+    void setLineWidth(double width) override;
+    void setStrokeColor(const Color& color) override;
+    void setFillColor(const Color& color) override;
+    void moveTo(Point point) override;
+    /// A line with an end that is not finite is left out and lifts the pen.
+    void lineTo(Point point) override;
+    void strokePath() override;
+    void strokeEllipse(const Rect& rect) override;
+    void fillEllipse(const Rect& rect) override;
+    void fillRect(const Rect& rect) override;
+
+private:
+    QPainter& m_painter;
+    Rect m_bounds;
+    double m_lineWidth = 1;
+    Color m_strokeColor;
+    Color m_fillColor;
+    Point m_pen;
+    bool m_penIsDown = false;
+    QList<QLineF> m_lines;
+};
+
+} // namespace velmora
