@@ -164,6 +164,8 @@ public:
     /// The equation editor for the present graph type, made through the screen registry when the type has
     /// changed since the last one. Null, logged, while no such screen is registered.
     std::shared_ptr<ViewController> currentEquationsViewController();
+    /// The program's tabs; null while there are none.
+    std::shared_ptr<TabBarController> tabBarController() const { return m_tabBarController.lock(); }
     /// The bar whose second tab holds the equation editor; the model does not keep it alive.
     void setTabBarController(std::weak_ptr<TabBarController> tabBar) {
         m_tabBarController = std::move(tabBar);

@@ -1,8 +1,14 @@
 #include "ui/ScreenAdapters.h"
 
+#include "calculator/ConstantEditViewController.h"
+#include "calculator/FunctionSelectViewController.h"
 #include "calculator/KeyboardViewController.h"
+#include "calculator/PageViewController.h"
 #include "platform/Log.h"
+#include "ui/ConstantEditAdapter.h"
+#include "ui/FunctionSelectAdapter.h"
 #include "ui/KeyboardScreenAdapter.h"
+#include "ui/PageAdapter.h"
 
 namespace velmora {
 
@@ -19,6 +25,9 @@ std::unique_ptr<QObject> make(const ControllerPointer& controller, const SceneAd
 /// One line a kind of screen.
 constexpr std::unique_ptr<QObject> (*kMakers[])(const ControllerPointer&, const SceneAdapter&) = {
     make<KeyboardViewController, KeyboardScreenAdapter>,
+    make<FunctionSelectViewController, FunctionSelectAdapter>,
+    make<ConstantEditViewController, ConstantEditAdapter>,
+    make<PageViewController, PageAdapter>,
 };
 
 } // namespace

@@ -7,6 +7,7 @@ Rectangle {
     id: root
 
     property bool selectable: true
+    readonly property bool pressed: tap.pressed
     property string spokenName
     property string spokenDescription
     property int spokenRole: Accessible.ListItem

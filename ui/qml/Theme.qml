@@ -12,6 +12,7 @@ QtObject {
     readonly property color text: "#f4f6f8"
     readonly property color secondaryText: "#a9b1bc"
     readonly property color accent: "#8fbcff"     // what can be tapped: texts, switches, the chosen item
+    readonly property color chosen: "#2f62a8"     // the ground of what is chosen or on
     readonly property color danger: "#ff8a80"
 
     readonly property int titleSize: 17

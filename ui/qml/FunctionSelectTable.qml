@@ -1,0 +1,30 @@
+import QtQuick
+import Velmora
+
+// A list of functions or constants to choose from.
+FocusScope {
+    id: root
+
+    required property FunctionSelectAdapter screen
+
+    focus: true
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.background
+    }
+    Table {
+        id: table
+        anchors.fill: parent
+        focus: true
+        model: root.screen
+        keyNavigationEnabled: true
+        Accessible.name: root.screen.title
+        delegate: FunctionSelectCell {
+            width: table.width
+            height: rowHeight
+            screen: root.screen
+            onTapped: root.screen.select(index)
+        }
+    }
+}
