@@ -4,6 +4,8 @@
 #include "calculator/KeyboardViewController.h"
 #include "calculator/Model.h"
 #include "calculator/PageViewController.h"
+#include "calculator/RangeViewController.h"
+#include "calculator/SettingsViewController.h"
 #include "platform/ScreenRegistry.h"
 #include "platform/SettingsTargetRegistry.h"
 
@@ -14,6 +16,10 @@ void registerEverything() {
                                             [] { return std::make_shared<KeyboardViewController>(); });
     ScreenRegistry::shared().registerScreen("FunctionSelectViewController",
                                             [] { return std::make_shared<FunctionSelectViewController>(); });
+    ScreenRegistry::shared().registerScreen("SettingsViewController",
+                                            [] { return std::make_shared<SettingsViewController>(); });
+    ScreenRegistry::shared().registerScreen("RangeViewController",
+                                            [] { return std::make_shared<RangeViewController>(); });
     registerPages();
     SettingsTargetRegistry::shared().registerTarget("Model", Model::m());
 }
