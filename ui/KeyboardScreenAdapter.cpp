@@ -141,7 +141,9 @@ void KeyboardScreenAdapter::closeEditMenu() {
 
 void KeyboardScreenAdapter::copy() {
     const ActionScope action;
-    view().currentEntryLabel().perform(EditCommand::Copy);
+    if (m_controller->finishTypedName()) {
+        view().currentEntryLabel().perform(EditCommand::Copy);
+    }
 }
 
 bool KeyboardScreenAdapter::pressHardwareKey(int key, const QString& text, int modifiers) {
@@ -157,7 +159,7 @@ bool KeyboardScreenAdapter::pressShortcut(int key) {
     CalculatorLabel& label = view().currentEntryLabel();
     switch (key) {
     case Qt::Key_C:
-        label.perform(EditCommand::Copy);
+        copy();
         return true;
     case Qt::Key_V:
         // Free text is no line: what is not known to be tokens would be guessed at.
@@ -194,5 +196,9 @@ void KeyboardScreenAdapter::layoutChanged() {
 }
 
 void KeyboardScreenAdapter::showEditMenu(bool /*shown*/) { Q_EMIT editMenuRefreshed(); }
+
+void KeyboardScreenAdapter::showNotice(const std::string& text) {
+    Q_EMIT notice(QString::fromStdString(text));
+}
 
 } // namespace velmora

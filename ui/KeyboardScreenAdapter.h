@@ -92,6 +92,7 @@ public:
     void keysChanged() override;
     void layoutChanged() override;
     void showEditMenu(bool shown) override;
+    void showNotice(const std::string& text) override;
 
 Q_SIGNALS:
     void layoutRefreshed();
