@@ -124,6 +124,12 @@ void KeyboardScreenAdapter::tapHistoryRow(int row, bool left) {
     }
 }
 
+void KeyboardScreenAdapter::copyHistoryRow(int row, bool left) {
+    if (const DisplayHistoryTableViewController* table = m_controller->displayTableViewController()) {
+        table->copyFromRow(row + table->nTipCells(), left);
+    }
+}
+
 void KeyboardScreenAdapter::tapEntryLine(double x, double y) {
     const ActionScope action;
     m_controller->entryLineTapped({x, y});

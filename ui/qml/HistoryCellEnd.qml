@@ -1,6 +1,7 @@
 import QtQuick
 
-// The invisible button over one end of a row. Dragging from it scrolls the history.
+// The invisible button over one end of a row. Dragging from it scrolls the history; resting on it, or the
+// right mouse button, holds it.
 Item {
     id: root
 
@@ -9,6 +10,7 @@ Item {
     required property string spokenDescription
 
     signal tapped()
+    signal held()
 
     x: frame.x
     y: frame.y
@@ -28,7 +30,11 @@ Item {
     }
     TapHandler {
         id: tap
-        longPressThreshold: 86400
         onTapped: root.tapped()
+        onLongPressed: root.held()
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: root.held()
     }
 }
