@@ -10,7 +10,7 @@
 namespace velmora {
 
 /// A label to copy from, as QML makes one: CopyPasteLabel.qml draws it.
-class CopyPasteLabelAdapter final : public QObject {
+class CopyPasteLabelAdapter : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY changed)
