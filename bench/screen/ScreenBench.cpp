@@ -89,13 +89,14 @@ int main(int argc, char** argv) {
 
     ScreenBench bench(window);
     QPointingDevice* finger = QTest::createTouchDevice();
-    // From the upper row of keys to the lowest, over every column, the tall key and "clr" left out.
-    const auto pointOfKey = [&](int key) {
-        return QPoint(window.width() * (2 * (key % 4) + 1) / 10,
-                      window.height() * (52 + 8 * (key / 4 % 5)) / 100);
+    // The digits, the point and the parenthesis: three columns from the second on, four rows.
+    const auto pointOfKey = [&](int step) {
+        const int column = 1 + step % 3;
+        const int row = step / 3 % 4;
+        return QPoint(window.width() * (2 * column + 1) / 10, window.height() * (126 + 15 * row) / 200);
     };
     bool isFast = bench.measure("keys", [&](int step) {
-        const QPoint place = pointOfKey(6 + step % 3 + 4 * (step % 4));
+        const QPoint place = pointOfKey(step);
         QTest::touchEvent(&window, finger).press(0, place).commit();
         QTest::touchEvent(&window, finger).release(0, place).commit();
     });
