@@ -30,8 +30,13 @@ Item {
     }
     TapHandler {
         id: tap
-        onTapped: root.tapped()
-        onLongPressed: root.held()
+        property bool wasHeld: false
+        onPressedChanged: if (pressed) wasHeld = false
+        onLongPressed: {
+            wasHeld = true
+            root.held()
+        }
+        onTapped: if (!wasHeld) root.tapped()
     }
     TapHandler {
         acceptedButtons: Qt.RightButton
