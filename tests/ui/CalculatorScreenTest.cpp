@@ -91,15 +91,6 @@ TEST_P(CalculatorStory, typesEvaluatesContinuesAndClears) {
     EXPECT_EQ(m_program.historyRows(), QStringList());
 }
 
-TEST_P(CalculatorStory, secondPressReplacesTheKeysFirstTitle) {
-    press({"2", "e or exponent of ten"});
-    EXPECT_EQ(m_program.line(), utf8("2e"));
-    press("e or exponent of ten");
-    EXPECT_EQ(m_program.line(), utf8("2E"));
-    press({"3", "equals"});
-    EXPECT_EQ(m_program.historyRows(), QStringList{utf8("2E3 is 2000")});
-}
-
 TEST(CalculatorKeys, areCancelledBySlidingOff) {
     RunningProgram program;
     const QPoint seven = program.pointOf(program.item(utf8("7")));
