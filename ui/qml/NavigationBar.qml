@@ -27,7 +27,7 @@ Rectangle {
             delegate: BarTextButton {
                 required property int index
                 required property var modelData
-                height: left.height
+                height: parent.height
                 text: modelData.title
                 enabled: modelData.enabled
                 onPressed: root.navigation.pressLeftButton(index)
@@ -54,7 +54,7 @@ Rectangle {
             delegate: BarTextButton {
                 required property int index
                 required property var modelData
-                height: right.height
+                height: parent.height
                 text: modelData.title
                 enabled: modelData.enabled
                 onPressed: root.navigation.pressRightButton(index)
