@@ -18,7 +18,7 @@ namespace {
 constexpr const char* kLastAnswer = "ans";
 constexpr std::size_t kOfferedNames = 4;
 
-std::string quoted(const std::string& text) { return "“" + text + "”"; }
+std::string inQuotes(const std::string& text) { return "“" + text + "”"; }
 
 } // namespace
 
@@ -44,7 +44,7 @@ TypeableNames KeyboardViewController::typeableNames() const {
 
 void KeyboardViewController::typeLetter(const std::string& letter) {
     if (!extendTypedName(letter)) {
-        showNotice("No function, constant or variable here begins with " + quoted(m_typedName + letter) +
+        showNotice("No function, constant or variable here begins with " + inQuotes(m_typedName + letter) +
                    ".");
     }
     updateDisplay();
@@ -108,7 +108,7 @@ bool KeyboardViewController::finishTypedName() {
         list += (i == 0 ? "" : ", ") + offered[i];
     }
     list += offered.size() > kOfferedNames ? ", …" : "";
-    showNotice(quoted(m_typedName) + " is only the start of " + list);
+    showNotice(inQuotes(m_typedName) + " is only the start of " + list);
     return false;
 }
 
