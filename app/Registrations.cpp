@@ -6,6 +6,8 @@
 #include "calculator/PageViewController.h"
 #include "calculator/RangeViewController.h"
 #include "calculator/SettingsViewController.h"
+#include "graphing/EquationsViewController.h"
+#include "graphing/ParametricEquationsViewController.h"
 #include "platform/ScreenRegistry.h"
 #include "platform/SettingsTargetRegistry.h"
 
@@ -20,6 +22,11 @@ void registerEverything() {
                                             [] { return std::make_shared<SettingsViewController>(); });
     ScreenRegistry::shared().registerScreen("RangeViewController",
                                             [] { return std::make_shared<RangeViewController>(); });
+    ScreenRegistry::shared().registerScreen("EquationsViewController",
+                                            [] { return std::make_shared<EquationsViewController>(); });
+    ScreenRegistry::shared().registerScreen("ParametricEquationsViewController", [] {
+        return std::make_shared<ParametricEquationsViewController>();
+    });
     registerPages();
     SettingsTargetRegistry::shared().registerTarget("Model", Model::m());
 }

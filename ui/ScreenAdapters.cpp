@@ -4,10 +4,12 @@
 #include "calculator/FunctionSelectViewController.h"
 #include "calculator/KeyboardViewController.h"
 #include "calculator/PageViewController.h"
+#include "graphing/GenericEquationsViewController.h"
 #include "platform/Log.h"
 #include "toolkit/OrvPickTableViewController.h"
 #include "toolkit/OrvSettingsTableViewController.h"
 #include "ui/ConstantEditAdapter.h"
+#include "ui/EquationsAdapter.h"
 #include "ui/FunctionSelectAdapter.h"
 #include "ui/KeyboardScreenAdapter.h"
 #include "ui/PageAdapter.h"
@@ -32,6 +34,7 @@ constexpr std::unique_ptr<QObject> (*kMakers[])(const ControllerPointer&, SceneA
     make<FunctionSelectViewController, FunctionSelectAdapter>,
     make<ConstantEditViewController, ConstantEditAdapter>,
     make<PageViewController, PageAdapter>,
+    make<GenericEquationsViewController, EquationsAdapter>,
     make<OrvSettingsTableViewController, SettingsTableAdapter>,
     make<OrvPickTableViewController, PickTableAdapter>,
 };
