@@ -61,7 +61,10 @@ void GenericEquationsViewController::switchButtonPressed() {
         std::vector<std::string>{"function", "polar", "parametric"})));
 }
 
-void GenericEquationsViewController::viewWillAppear(bool /*animated*/) { m_reloaded.emit(); }
+void GenericEquationsViewController::viewWillAppear(bool /*animated*/) {
+    setBackButtonTitle({}); // "Cancel" holds for the editor only
+    m_reloaded.emit();
+}
 
 void GenericEquationsViewController::didRotate(Orientation /*from*/) { m_reloaded.emit(); }
 

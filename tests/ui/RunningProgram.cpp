@@ -156,6 +156,23 @@ void RunningProgram::type(const QString& text) {
     settle();
 }
 
+void RunningProgram::scrollTo(const QString& name) {
+    static_cast<void>(QTest::qWaitFor([&] { return isOnScreen(name); }, 2000)); // rows come by and by
+    const QQuickItem* target = item(name);
+    for (QQuickItem* parent = target != nullptr ? target->parentItem() : nullptr; parent != nullptr;
+         parent = parent->parentItem()) {
+        if (parent->inherits("QQuickFlickable")) {
+            const double top = target->mapToItem(parent, QPointF()).y();
+            const double end = parent->property("originY").toDouble() +
+                               parent->property("contentHeight").toDouble() - parent->height();
+            const double wanted = parent->property("contentY").toDouble() + top - parent->height() / 2;
+            parent->setProperty("contentY", std::clamp(wanted, 0.0, std::max(0.0, end)));
+            settle();
+            return;
+        }
+    }
+}
+
 void RunningProgram::wheel(QPoint point, int notches) {
     constexpr int eighthsOfADegree = 120;
     QWheelEvent event(point, window().mapToGlobal(point), {}, {0, notches * eighthsOfADegree}, Qt::NoButton,

@@ -57,6 +57,8 @@ public:
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Characters of a hardware keyboard.
     void type(const QString& text);
+    /// Scrolls a list until the row of that spoken name is in view.
+    void scrollTo(const QString& spokenName);
     void wheel(QPoint point, int notches);
     void drag(QPoint from, QPoint to);
     /// Lets everything that is due happen.

@@ -28,7 +28,7 @@ TableRow {
         id: title
         anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
         width: root.kind === "angles" ? 80
-             : root.hasDetail ? Math.max(120, Math.min(implicitWidth, 0.4 * root.width))
+             : root.hasDetail ? Math.max(0.27 * root.width, Math.min(implicitWidth, 0.42 * root.width))
              : root.width - 3 * Theme.margin
         text: root.title
         color: root.kind === "heading" ? Theme.secondaryText : Theme.text
@@ -82,7 +82,8 @@ TableRow {
         }
     }
     Loader {
-        anchors { left: title.right; right: parent.right; margins: Theme.margin; verticalCenter: parent.verticalCenter }
+        anchors { right: parent.right; margins: Theme.margin; verticalCenter: parent.verticalCenter }
+        width: Math.min(300, root.width - 80 - 3 * Theme.margin)
         active: root.kind === "angles"
         sourceComponent: SegmentedControl {
             spokenName: root.title

@@ -15,7 +15,10 @@ FocusScope {
     }
     Table {
         id: table
-        anchors.fill: parent
+        // On a wide screen a row stays narrow enough for the eye to follow from its title to its meaning.
+        width: Math.min(parent.width, 640)
+        height: parent.height
+        x: (parent.width - width) / 2
         focus: true
         model: root.screen
         keyNavigationEnabled: true

@@ -39,6 +39,8 @@ Rectangle {
         text: root.navigation.title
         color: "white"
         font { pixelSize: 17; bold: true }
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 11
         elide: Text.ElideRight
         textFormat: Text.PlainText
         horizontalAlignment: Text.AlignHCenter

@@ -16,7 +16,7 @@ FocusScope {
     Flickable {
         id: page
         anchors.fill: parent
-        contentHeight: text.height + 2 * Theme.margin
+        contentHeight: column.height + 2 * Theme.margin
         boundsBehavior: Flickable.DragAndOvershootBounds
         focus: true
         clip: true
@@ -24,7 +24,7 @@ FocusScope {
         Keys.onUpPressed: contentY = Math.max(contentY - 60, 0)
 
         Column {
-            id: text
+            id: column
             // Long lines are hard to read, so a wide screen keeps margins.
             width: Math.min(page.width - 2 * Theme.margin, 640)
             x: (page.width - width) / 2
@@ -35,7 +35,7 @@ FocusScope {
                 delegate: Text {
                     required property var modelData
                     required property int index
-                    width: text.width
+                    width: column.width
                     topPadding: modelData.isHeading && index > 0 ? 10 : 0
                     text: modelData.text
                     color: modelData.isHeading ? Theme.text : "#d5dae1"

@@ -34,7 +34,7 @@ TableRow {
     Text {
         id: label
         anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-        width: Math.min(implicitWidth, 0.6 * root.width)
+        width: Math.min(implicitWidth, 0.72 * root.width)
         text: root.title
         color: Theme.text
         font.pixelSize: Theme.textSize
