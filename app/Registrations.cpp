@@ -8,8 +8,10 @@
 #include "calculator/SettingsViewController.h"
 #include "graphing/EquationsViewController.h"
 #include "graphing/ParametricEquationsViewController.h"
+#include "platform/SavingRegistry.h"
 #include "platform/ScreenRegistry.h"
 #include "platform/SettingsTargetRegistry.h"
+#include "tools/UnitConverterModel.h"
 
 namespace velmora {
 
@@ -29,6 +31,8 @@ void registerEverything() {
     });
     registerPages();
     SettingsTargetRegistry::shared().registerTarget("Model", Model::m());
+    SettingsTargetRegistry::shared().registerTarget("UnitConverterModel", UnitConverterModel::ucm());
+    SavingRegistry::shared().registerSaver("UnitConverterModel", [] { UnitConverterModel::ucm().save(); });
 }
 
 } // namespace velmora
