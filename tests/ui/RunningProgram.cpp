@@ -19,6 +19,10 @@ namespace velmora {
 
 RunningProgram::RunningProgram(QSize windowSize) : m_touchScreen(QTest::createTouchDevice()) {
     qputenv("XDG_DATA_HOME", m_home.path().c_str());
+    start(windowSize);
+}
+
+void RunningProgram::start(QSize windowSize) {
     Model::resetForTests();
     SavingRegistry::shared().reset();
     ScreenRegistry::shared().reset();
@@ -33,6 +37,12 @@ RunningProgram::RunningProgram(QSize windowSize) : m_touchScreen(QTest::createTo
 }
 
 RunningProgram::~RunningProgram() = default;
+
+void RunningProgram::startAgain() {
+    const QSize size = window().size();
+    m_application.reset();
+    start(size);
+}
 
 void RunningProgram::resize(QSize size) {
     window().resize(size);

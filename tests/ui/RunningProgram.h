@@ -33,6 +33,8 @@ public:
     Application& application() { return *m_application; }
     QQuickView& window() { return m_application->window(); }
     void resize(QSize size);
+    /// Ends without another word, as a killed program does, and starts on the same files.
+    void startAgain();
 
     // What is on screen.
     /// The visible item of that spoken name; null, with a failure, when there is none.
@@ -70,6 +72,7 @@ public:
     QPointingDevice* touchScreen() { return m_touchScreen.get(); }
 
 private:
+    void start(QSize windowSize);
     void collect(QQuickItem* item, std::vector<QQuickItem*>& found) const;
 
     TemporaryFolder m_home;

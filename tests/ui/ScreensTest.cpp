@@ -130,6 +130,26 @@ TEST_P(Screens, equationsAreEditedSavedAndRefused) {
     picture("equations-polar");
 }
 
+TEST_P(Screens, everythingIsThereAgainAfterAKillInTheBackground) {
+    program.type(utf8("2/3"));
+    program.press(Qt::Key_Return);
+    program.click(utf8("Equations"));
+    program.click(utf8("y3(x)= empty"));
+    program.type(utf8("x^2"));
+    program.press(Qt::Key_Return);
+    openSettings();
+    enter("Display decimal places", "3");
+    program.window().hide(); // into the background
+    program.settle();
+    Model::m().setDisplayDigits(9); // lost: nothing is saved at other moments
+    program.startAgain();
+    EXPECT_EQ(program.historyRows(), QStringList{utf8("2/3 is 0.667")});
+    program.click(utf8("Equations"));
+    EXPECT_TRUE(program.isOnScreen(utf8("y3(x)=x^2")));
+    EXPECT_TRUE(Model::m().settingsHaveBeenAccessed());
+    EXPECT_EQ(Model::m().nHasBecomeActive(), 2);
+}
+
 TEST_P(Screens, helpIsRead) {
     program.click(utf8("More"));
     picture("more");
