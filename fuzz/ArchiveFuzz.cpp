@@ -2,6 +2,7 @@
 
 #include "calculator/Model.h"
 #include "calculator/ModelArchive.h"
+#include "engine/Expression.h"
 #include "fuzz/FuzzTarget.h"
 #include "platform/Log.h"
 
