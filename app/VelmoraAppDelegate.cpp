@@ -6,7 +6,6 @@
 #include "calculator/Model.h"
 #include "platform/Log.h"
 #include "platform/NavigationController.h"
-#include "platform/SavingRegistry.h"
 #include "platform/ScreenRegistry.h"
 #include "platform/Sound.h"
 #include "platform/StaticObjectManager.h"
@@ -104,6 +103,7 @@ void VelmoraAppDelegate::applicationDidFinishLaunching() {
     warnOfMemoryDebugging();
     registerCompiledResources();
     registerEverything();
+    Model::m().load();
 
     m_tabBarController = std::make_shared<TabBarController>();
     TabBarController::Tabs tabs;
@@ -135,8 +135,8 @@ void VelmoraAppDelegate::applicationDidBecomeActive() {
     }
 }
 
-void VelmoraAppDelegate::applicationDidEnterBackground() { SavingRegistry::shared().saveAll(); }
+void VelmoraAppDelegate::applicationDidEnterBackground() { Model::m().save(); }
 
-void VelmoraAppDelegate::applicationWillTerminate() { SavingRegistry::shared().saveAll(); }
+void VelmoraAppDelegate::applicationWillTerminate() { Model::m().save(); }
 
 } // namespace velmora

@@ -39,6 +39,9 @@ void CalculatorButton::pressed() {
     const ActionScope action;
     const auto keepAlive = shared_from_this();
     KeyboardViewController& controller = *m_controller;
+    if (!controller.isReadyForPress(*this)) {
+        return;
+    }
 
     controller.buttonPressedPre(*this);
     if (m_customSelector) {

@@ -3,6 +3,7 @@
 #include "calculator/KeyboardScreen.h"
 #include "calculator/KeyboardSizes.h"
 #include "calculator/Model.h"
+#include "platform/Pasteboard.h"
 
 namespace velmora {
 
@@ -37,6 +38,16 @@ DisplayHistoryCell DisplayHistoryTableViewController::historyCell(int row, doubl
     }
     cell.layout({width, rowHeight()});
     return cell;
+}
+
+void DisplayHistoryTableViewController::copyFromRow(int row, bool left) const {
+    if (const ExpressionWithTokenArray* entry = Model::m().history().entryAtIndex(row - nTipCells())) {
+        if (left) {
+            entry->copyToPasteboard();
+        } else {
+            generalPasteboard().setText(entry->resultText());
+        }
+    }
 }
 
 void DisplayHistoryTableViewController::reloadTableView() {

@@ -68,10 +68,12 @@ int lineAtHeight(double y, const LabelRecord& label, int lines) {
 } // namespace
 
 EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, int entering,
-                            const ExpressionList* target, int whichEquation) {
+                            const ExpressionList* target, int whichEquation, const std::string& typedName) {
     EntryLineText text;
     text.line = buffer.displayStringWithCursor();
-    text.beforeCursor = buffer.beforeCursorString();
+    const std::string beforeCursor = buffer.beforeCursorString();
+    text.line.insert(beforeCursor.size(), typedName);
+    text.beforeCursor = beforeCursor + typedName;
     if (target && entering >= kEnteringFunction && entering <= kEnteringPolar) {
         text.prefix = target->fullFunctionNameWithIndex(whichEquation) + "=";
     }

@@ -20,8 +20,10 @@ struct EntryLineText {
 };
 
 /// The text for a buffer in an editing mode; `target` may be null, and then there is no prefix or suffix.
+/// The letters of a name being typed stand before the cursor.
 EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, int entering,
-                            const ExpressionList* target, int whichEquation);
+                            const ExpressionList* target, int whichEquation,
+                            const std::string& typedName = {});
 
 /// The text a label of one line shows: where both the whole and the text up to the cursor are too wide, only
 /// the latter, so that the end on screen is where the next key goes. A label of more lines shows the whole.

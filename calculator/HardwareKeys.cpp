@@ -1,5 +1,7 @@
 #include "calculator/HardwareKeys.h"
 
+#include "platform/Utf8.h"
+
 #include <algorithm>
 #include <array>
 
@@ -28,13 +30,18 @@ constexpr std::array kRows{
     HardwareRow{"·", HardwareAction::Type, "*"},
     HardwareRow{"÷", HardwareAction::Type, "/"},
     HardwareRow{"−", HardwareAction::Type, "-"},
-    HardwareRow{"p", HardwareAction::Type, "π"},
     HardwareRow{"π", HardwareAction::Type, "π"},
-    HardwareRow{"θ", HardwareAction::Type, "θ"},
     HardwareRow{"≥", HardwareAction::Type, "≥"},
     HardwareRow{"≤", HardwareAction::Type, "≤"},
 };
-constexpr std::string_view kTypedAsTheyAre = "0123456789.+-*/^(),<>eEixyt";
+constexpr std::string_view kTypedAsTheyAre = "0123456789.+-*/^(),<>";
+
+/// Letters, and whatever else is no control character: it may stand in a name that the user gave.
+bool mayStandInAName(std::string_view text) {
+    constexpr char kDelete = '\x7f';
+    return text == firstCodePoint(text) && !text.empty() &&
+           (text[0] < 0 || (text[0] > ' ' && text[0] < kDelete));
+}
 
 } // namespace
 
@@ -46,7 +53,7 @@ HardwareKey hardwareKeyWithText(std::string_view text) {
     if (text.size() == 1 && kTypedAsTheyAre.find(text) != std::string_view::npos) {
         return {HardwareAction::Type, std::string(text)};
     }
-    return {};
+    return mayStandInAName(text) ? HardwareKey{HardwareAction::Letter, std::string(text)} : HardwareKey{};
 }
 
 } // namespace velmora

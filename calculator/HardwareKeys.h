@@ -9,6 +9,7 @@ namespace velmora {
 enum class HardwareAction : unsigned char {
     None,    ///< nothing here; the key is left to others
     Type,    ///< types `text`
+    Letter,  ///< types `text` as a part of a name
     TallKey, ///< the key that closes a parenthesis, evaluates or saves
     Delete,
     DeleteForward, ///< deletes the token after the cursor
@@ -21,13 +22,13 @@ enum class HardwareAction : unsigned char {
 
 struct HardwareKey {
     HardwareAction action = HardwareAction::None;
-    std::string text; ///< for Type, as the keys on screen spell it
+    std::string text; ///< for Type and Letter, as the keys on screen spell it
 };
 
 /// Reads a named key ("Enter", "Return", "Backspace", "Delete", "Escape", "Left", "Right", "Home", "End") or
 /// the text that a key produces: digits, operators (also "×", "÷", "−"), ".", "(", ")", ",", "=", the signs
-/// of inequality, "e", "E", "i", "π" (also "p"), and the letters x, y, t, θ. Whether a letter is a variable
-/// of the edited line, and a sign of use there, is for the controller to say.
+/// of inequality and "π"; any other character is a letter of a name. Which names there are, and whether a
+/// sign is of use in the edited line, is for the controller to say.
 HardwareKey hardwareKeyWithText(std::string_view text);
 
 } // namespace velmora

@@ -3,11 +3,7 @@
 #include "calculator/HardwareKeys.h"
 #include "calculator/InequalityTokens.h"
 #include "calculator/KeyboardViewController.h"
-#include "engine/ExpressionList.h"
 #include "platform/ActionScope.h"
-
-#include <algorithm>
-#include <array>
 
 namespace velmora {
 
@@ -20,6 +16,11 @@ bool KeyboardViewController::hardwareKey(std::string_view key) {
         return false;
     case HardwareAction::Type:
         return typeHardwareText(meaning.text);
+    case HardwareAction::Letter:
+        endPressCounts();
+        playClick();
+        typeLetter(meaning.text);
+        return true;
     case HardwareAction::TallKey:
         return pressKeyOfCharacter("=");
     case HardwareAction::Delete:
@@ -52,15 +53,11 @@ bool KeyboardViewController::typeHardwareText(const std::string& text) {
     if (InequalityTokens::isInequalitySign(text)) {
         return m_entering == kEnteringInequality && pressKeyOfCharacter(text);
     }
-    constexpr std::array<std::string_view, 4> kVariables{"x", "y", "t", "θ"};
-    if (std::ranges::find(kVariables, text) != kVariables.end() && !definesVariable(text)) {
-        return false;
-    }
     const auto button = m_view->buttonTyping(text);
     if (button && button->titleArray().size() == 1) {
         button->pressed();
     } else {
-        // A key with several titles would replace "x" by "π" on the second "x"; who types means the letter.
+        // A key with several titles would replace "." by "i" on the second "."; who types means the first.
         typeWithoutKey(text);
     }
     return true;
@@ -74,6 +71,9 @@ void KeyboardViewController::typeWithoutKey(const std::string& text) {
 }
 
 bool KeyboardViewController::editByHardware(void (KeyboardViewController::*edit)()) {
+    if (!finishTypedName()) {
+        return true;
+    }
     endPressCounts();
     playClick();
     (this->*edit)();
@@ -100,26 +100,9 @@ void KeyboardViewController::deleteForward() {
     }
 }
 
-bool KeyboardViewController::definesVariable(std::string_view name) const {
-    switch (m_entering) {
-    case kEnteringCalculatorLine:
-        return false;
-    case kEnteringInequality:
-    case kEnteringImpliedFunction:
-        return name == "x" || name == "y";
-    default:
-        break;
-    }
-    if (m_target) {
-        const std::vector<std::string> names = m_target->variableNameArray();
-        return std::ranges::find(names, name) != names.end();
-    }
-    return false;
-}
-
 void KeyboardViewController::cursorTappedAt(int gap) {
     endPressCounts();
-    if (m_displayModel) {
+    if (finishTypedName() && m_displayModel) {
         m_displayModel->moveCursorTo(gap);
     }
     updateDisplay();
@@ -127,7 +110,7 @@ void KeyboardViewController::cursorTappedAt(int gap) {
 
 void KeyboardViewController::entryLineTapped(Point point) {
     KeyboardView& view = keyboardView();
-    if (!view.currentEntryLabel().tapped()) {
+    if (!view.currentEntryLabel().tapped() && finishTypedName()) {
         cursorTappedAt(view.tokenGapAtPoint(point));
     }
 }

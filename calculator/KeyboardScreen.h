@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace velmora {
 
 /// What draws a keyboard screen. The controller calls it after the change; the drawing side then reads the
@@ -22,6 +24,8 @@ public:
     virtual void layoutChanged() = 0;
     /// The edit menu of the entry line has come or gone.
     virtual void showEditMenu(bool shown) = 0;
+    /// Something to tell the user that needs no answer.
+    virtual void showNotice(const std::string& text) = 0;
 };
 
 } // namespace velmora

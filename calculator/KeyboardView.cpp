@@ -193,8 +193,9 @@ void KeyboardView::updateDisplay() {
         return;
     }
     LabelRecord& entry = m_currentEntryLabel.record();
-    entry.text = textFittedToLabel(
-        entryLineText(*m_displayModel, m_entering, m_target, m_enteringWhichEquation), entry);
+    entry.text = textFittedToLabel(entryLineText(*m_displayModel, m_entering, m_target,
+                                                 m_enteringWhichEquation, m_controller.typedName()),
+                                   entry);
     if (KeyboardScreen* screen = m_controller.screen()) {
         screen->showEntry();
     }

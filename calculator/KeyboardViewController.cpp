@@ -4,13 +4,11 @@
 #include "calculator/InequalityTokens.h"
 #include "calculator/KeyboardScreen.h"
 #include "calculator/Model.h"
-#include "engine/Number.h"
 #include "platform/ActionScope.h"
-#include "platform/KeyedArchive.h"
 #include "platform/NavigationController.h"
 #include "platform/StaticObjectManager.h"
+#include "platform/Utf8.h"
 
-#include <array>
 #include <utility>
 
 namespace velmora {
@@ -18,19 +16,6 @@ namespace velmora {
 namespace {
 
 constexpr int kClearsThatEraseTheHistory = 3;
-
-/// Operators that continue the last answer on an empty line. "-" is missing on purpose, so that a line may
-/// begin with a negative number; "_" is on no key of the present layouts.
-constexpr std::array<std::string_view, 5> kContinuesLastAnswer{"+", "_", "*", "/", "^"};
-
-bool continuesLastAnswer(const std::string& text) {
-    for (const std::string_view start : kContinuesLastAnswer) {
-        if (text == start) {
-            return true;
-        }
-    }
-    return false;
-}
 
 } // namespace
 
@@ -86,6 +71,7 @@ void KeyboardViewController::setEnteringWhichEquation(int index) {
 void KeyboardViewController::setDisplayModel(std::unique_ptr<ExpressionWithTokenArray> buffer) {
     const auto former = std::exchange(m_displayModel, std::move(buffer));
     endPressCounts();
+    m_typedName.clear();
     if (m_view) {
         m_view->setDisplayModel(m_displayModel.get());
     }
@@ -234,41 +220,10 @@ void KeyboardViewController::buttonPressed(CalculatorButton& button) {
     }
 }
 
-void KeyboardViewController::buttonPressedWithText(const std::string& text) {
-    if (!m_displayModel || text.empty()) {
-        return;
-    }
-    if (m_displayModel->count() == 0 && continuesLastAnswer(text)) {
-        insertANS();
-    }
-    if (text.find_first_not_of(',') == std::string::npos) {
-        // No function leads these commas, so each is a token typed by itself.
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            insertElement(Token(","));
-        }
-        return;
-    }
-    m_displayModel->insertTokenArray(Token::tokenArrayWithString(text));
-}
-
-void KeyboardViewController::insertElement(TokenElement token) {
-    if (m_displayModel) {
-        m_displayModel->insertToken(std::move(token));
-    }
-}
-
-void KeyboardViewController::insertANS() {
-    if (m_entering != kEnteringCalculatorLine) {
-        return;
-    }
-    const ExpressionList& history = Model::m().history();
-    const ExpressionWithTokenArray* last = history.entryAtIndex(history.nExpressions() - 1);
-    const ComplexValue answer = last ? last->resultValue() : ComplexValue(0);
-    insertElement(NamedExpression(std::make_shared<Number>(answer), "ans"));
-}
-
 void KeyboardViewController::deleteAtCursor() {
-    if (m_displayModel) {
+    if (!m_typedName.empty()) {
+        m_typedName = dropLast(m_typedName);
+    } else if (m_displayModel) {
         m_displayModel->deleteAtCursor();
     }
 }
@@ -286,6 +241,7 @@ void KeyboardViewController::rightButtonPressed() {
 }
 
 void KeyboardViewController::clearDisplayData() {
+    m_typedName.clear();
     if (m_displayModel) {
         m_displayModel->reset();
     }
@@ -331,48 +287,6 @@ void KeyboardViewController::parenEqualsButtonPressed(CalculatorButton& button) 
     } else {
         equalsButtonPressed();
     }
-}
-
-// Choices that come back from other screens, and taps on the history.
-
-void KeyboardViewController::functionSelected(const std::string& text) {
-    endPressCounts();
-    buttonPressedWithText(text);
-    updateDisplay();
-}
-
-void KeyboardViewController::namedExpressionSelected(TokenElement token) {
-    endPressCounts();
-    insertElement(std::move(token));
-    updateDisplay();
-}
-
-void KeyboardViewController::numberEntered(ComplexValue value) {
-    endPressCounts();
-    insertElement(std::shared_ptr<const Expression>(std::make_shared<Number>(value)));
-    updateDisplay();
-}
-
-void KeyboardViewController::displayTableViewButtonPressed(const Notification& notification) {
-    const KeyedUnarchiver info(notification.userInfo);
-    const auto row = info.integer("row");
-    const auto left = info.boolean("left");
-    if (!row || !left) {
-        return;
-    }
-    endPressCounts();
-    const int index = static_cast<int>(*row) - m_table->nTipCells();
-    if (const ExpressionWithTokenArray* entry = Model::m().history().entryAtIndex(index)) {
-        if (*left) {
-            const TokenArray tokens = entry->tokenArray();
-            for (const TokenElement& token : tokens) {
-                insertElement(token);
-            }
-        } else {
-            numberEntered(entry->resultValue());
-        }
-    }
-    updateDisplay();
 }
 
 // The tall key.

@@ -2,6 +2,7 @@
 
 #include "calculator/Entering.h"
 #include "calculator/KeyboardView.h"
+#include "calculator/TypeableNames.h"
 #include "engine/ComplexValue.h"
 #include "engine/ExpressionWithTokenArray.h"
 #include "engine/NamedExpression.h"
@@ -84,9 +85,17 @@ public:
     // From other inputs than the keys on screen.
 
     /// A key of a hardware keyboard: a name or the text it produces, see HardwareKeys.h. It presses the key
-    /// on screen of the same meaning; of a key with several titles it types the one named. False when it
-    /// means nothing here, so that the key can be left to others.
+    /// on screen of the same meaning; of a key with several titles it types the one named. Letters gather to
+    /// the name of a function, variable or constant. False when it means nothing here, so that the key can
+    /// be left to others.
     bool hardwareKey(std::string_view key);
+    /// The letters typed so far of a name that is not complete yet; they stand in the line at the cursor.
+    const std::string& typedName() const { return m_typedName; }
+    /// Puts a name that is complete into the line, as every other input does before it acts. False, with a
+    /// notice and nothing changed, when the letters are only the start of a name.
+    bool finishTypedName();
+    /// Whether a press of the key can be acted on now; tells why when it cannot.
+    bool isReadyForPress(const CalculatorButton& button);
     /// A tap between tokens of the entry line; the gap is clamped to the line.
     void cursorTappedAt(int gap);
     /// The same by the place of the tap, in the view's coordinates. While the edit menu is open the tap
@@ -112,7 +121,13 @@ private:
     bool typeHardwareText(const std::string& text);
     bool pressKeyOfCharacter(const std::string& character);
     bool editByHardware(void (KeyboardViewController::*edit)());
-    bool definesVariable(std::string_view name) const;
+    void typeLetter(const std::string& letter);
+    bool continueTypedName(const std::string& text);
+    bool extendTypedName(const std::string& text);
+    void insertTypedNames(const std::vector<std::string>& texts);
+    TypeableNames typeableNames() const;
+    std::vector<std::string> definedVariables() const;
+    void showNotice(const std::string& text) const;
     void moveCursorHome();
     void moveCursorToEnd();
     void deleteForward();
@@ -131,6 +146,7 @@ private:
     std::shared_ptr<CalculatorButton> m_lastButtonPressed;
     std::shared_ptr<CalculatorButton> m_previousButtonPressed;
     int m_nClears = 0;
+    std::string m_typedName;
     std::unique_ptr<DisplayHistoryTableViewController> m_table;
     std::unique_ptr<KeyboardView> m_view;
     KeyboardScreen* m_screen = nullptr;

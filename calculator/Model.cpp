@@ -2,10 +2,15 @@
 
 #include "calculator/Assertion.h"
 #include "calculator/KeyboardGeometry.h"
+#include "calculator/ModelArchive.h"
 #include "calculator/ModelProperties.h"
 #include "calculator/OrientationMode.h"
 #include "engine/Expression.h"
+#include "platform/AtomicFile.h"
+#include "platform/DocumentsFolder.h"
+#include "platform/Log.h"
 #include "platform/NavigationController.h"
+#include "platform/SavingRegistry.h"
 #include "platform/ScreenRegistry.h"
 #include "platform/TabBarController.h"
 
@@ -61,6 +66,33 @@ Model::Model()
 }
 
 Model::~Model() = default;
+
+std::optional<std::filesystem::path> Model::dataFilePath() { return documentPath("Calculator archive"); }
+
+void Model::save() {
+    SavingRegistry::shared().saveAll();
+    if (const auto path = dataFilePath()) {
+        writeFileAtomically(*path, binaryPropertyList(archivedModel(*this)));
+    }
+}
+
+void Model::load() {
+    setUnitConverterArray(std::nullopt);
+    const auto path = dataFilePath();
+    const std::string bytes = path ? readFile(*path).value_or(std::string()) : std::string();
+    if (bytes.empty()) {
+        loadArchivedModel(*this, {});
+        return;
+    }
+    const std::optional<PropertyList> archive = readPropertyList(bytes);
+    if (archive && archive->asDictionary()) {
+        loadArchivedModel(*this, *archive);
+        return;
+    }
+    log("catch");
+    setAsideDamagedFile(*path);
+    loadArchivedModel(*this, {});
+}
 
 void Model::setAngleMode(int mode) {
     m_angleMode = mode;

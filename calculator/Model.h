@@ -9,6 +9,7 @@
 #include "platform/PropertyList.h"
 #include "platform/SettingsTargetRegistry.h"
 
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,6 +31,15 @@ public:
     /// Replaces it by a fresh one. References to the former one and to its lists become invalid.
     static void resetForTests();
     ~Model() override;
+
+    /// Has everything registered for saving saved, then writes the model's own file. A failure to write
+    /// leaves the former file as it was.
+    void save();
+    /// Reads the model's file. Without one, or when it cannot be understood, everything is as at a first
+    /// start; a file that cannot be understood is kept under another name.
+    void load();
+    /// Where the model is kept; nothing on a machine without a documents folder.
+    static std::optional<std::filesystem::path> dataFilePath();
 
     // Lists. Their entries start empty; the history starts without entries and keeps the newest 50.
     ExpressionList& history() { return m_history; }
@@ -154,6 +164,8 @@ public:
     /// The equation editor for the present graph type, made through the screen registry when the type has
     /// changed since the last one. Null, logged, while no such screen is registered.
     std::shared_ptr<ViewController> currentEquationsViewController();
+    /// The program's tabs; null while there are none.
+    std::shared_ptr<TabBarController> tabBarController() const { return m_tabBarController.lock(); }
     /// The bar whose second tab holds the equation editor; the model does not keep it alive.
     void setTabBarController(std::weak_ptr<TabBarController> tabBar) {
         m_tabBarController = std::move(tabBar);

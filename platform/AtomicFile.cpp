@@ -3,6 +3,7 @@
 #include "platform/Log.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <fcntl.h>
 #include <iterator>
@@ -66,6 +67,22 @@ void flushFolder(const std::filesystem::path& folder) {
     }
 }
 
+constexpr std::size_t kRandomSuffixLength = 6; // of mkstemp
+
+/// Removes what writers of the file left behind when they were killed. Young ones may still be written to.
+void removeAbandonedFiles(const std::filesystem::path& path) {
+    constexpr std::chrono::minutes youth(10);
+    const std::string prefix = path.filename().string() + ".";
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folderOf(path), error)) {
+        const std::string name = entry.path().filename().string();
+        if (name.size() == prefix.size() + kRandomSuffixLength && name.starts_with(prefix) &&
+            entry.last_write_time(error) < std::filesystem::file_time_type::clock::now() - youth && !error) {
+            ::unlink(entry.path().c_str());
+        }
+    }
+}
+
 } // namespace
 
 bool writeFileAtomically(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
@@ -77,6 +94,7 @@ bool writeFileAtomically(const std::filesystem::path& path, std::span<const std:
     if (writeAll(descriptor.value(), bytes) && ::fsync(descriptor.value()) == 0 && descriptor.close() &&
         ::rename(temporary.c_str(), path.c_str()) == 0) {
         flushFolder(folderOf(path));
+        removeAbandonedFiles(path);
         return true;
     }
     logFailure("cannot write", path);

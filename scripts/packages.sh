@@ -5,6 +5,7 @@
 packages_build=(
     cmake
     g++
+    libasound2-dev
     libgl1-mesa-dev
     libplist-dev
     ninja-build
@@ -17,6 +18,7 @@ packages_build=(
 packages_run=(
     fonts-dejavu-core
     fonts-inter
+    libasound2
     libgl1-mesa-dri
     libqt6svg6
     qml6-module-qtqml

@@ -7,8 +7,10 @@
 #include "platform/LinkOpener.h"
 #include "platform/Pasteboard.h"
 #include "platform/ScreenMetrics.h"
+#include "platform/Sound.h"
 #include "platform/TextMeasure.h"
 #include "platform/Timer.h"
+#include "ui/AlsaSoundPlayer.h"
 #include "ui/NavigationAdapter.h"
 #include "ui/QtAlertPresenter.h"
 #include "ui/QtDocumentsFolder.h"
@@ -49,6 +51,7 @@ private:
     QtTimerService m_timers;
     QtLinkOpener m_links;
     QtDocumentsFolder m_documents;
+    AlsaSoundPlayer m_sounds;
     DeviceScope m_deviceScope{m_scene};
     ScreenMetricsScope m_metricsScope{m_scene};
     AlertPresenterScope m_alertScope{m_alerts};
@@ -57,6 +60,7 @@ private:
     TimerServiceScope m_timerScope{m_timers};
     LinkOpenerScope m_linkScope{m_links};
     DocumentsFolderScope m_documentsScope{m_documents};
+    SoundPlayerScope m_soundScope{m_sounds};
 
     VelmoraAppDelegate m_delegate;
     std::unique_ptr<TabBarAdapter> m_tabBar;

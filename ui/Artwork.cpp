@@ -2,6 +2,7 @@
 
 #include "platform/Log.h"
 #include "ui/KeyColors.h"
+#include "ui/SystemFont.h"
 
 #include <QImage>
 #include <QLinearGradient>
@@ -98,6 +99,81 @@ void drawCalculator(const Canvas& canvas) {
     }
 }
 
+/// Thin round lines in the unit square, for outlines.
+QPainter& useLinePen(const Canvas& canvas) {
+    useUnitSquare(canvas);
+    canvas.painter.setPen(QPen(Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    canvas.painter.setBrush(Qt::NoBrush);
+    return canvas.painter;
+}
+
+void drawCentred(QPainter& painter, const QRectF& area, const QString& text, int size, bool italic) {
+    QFont font(systemFontFamily());
+    font.setPixelSize(size);
+    font.setItalic(italic);
+    font.setWeight(QFont::Medium);
+    painter.setFont(font);
+    painter.drawText(area, Qt::AlignCenter, text);
+}
+
+void drawEquation(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    drawCentred(painter, QRectF(0, 0, 13, 24), QStringLiteral("y"), 17, true);
+    painter.drawLine(QPointF(13.5, 10), QPointF(21, 10));
+    painter.drawLine(QPointF(13.5, 14.5), QPointF(21, 14.5));
+}
+
+void drawGraph(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    painter.drawLine(QPointF(4, 3), QPointF(4, 20));
+    painter.drawLine(QPointF(4, 20), QPointF(21, 20));
+    QPainterPath curve(QPointF(4, 16));
+    curve.cubicTo(9, 16, 9, 5, 13, 7);
+    curve.cubicTo(16, 8.5, 16, 15, 21, 5);
+    painter.drawPath(curve);
+}
+
+void drawReference(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    QPainterPath book(QPointF(12, 6));
+    book.cubicTo(9, 4, 6, 4, 3, 4.6);
+    book.lineTo(3, 18.6);
+    book.cubicTo(6, 18, 9, 18, 12, 20);
+    book.cubicTo(15, 18, 18, 18, 21, 18.6);
+    book.lineTo(21, 4.6);
+    book.cubicTo(18, 4, 15, 4, 12, 6);
+    book.lineTo(12, 20);
+    painter.drawPath(book);
+}
+
+void drawSettings(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    constexpr double left = 3.5;
+    constexpr double right = 20.5;
+    const QPointF knobs[] = {{15, 6}, {8, 12}, {13, 18}};
+    for (const QPointF& knob : knobs) {
+        constexpr double radius = 2.2;
+        painter.drawLine(QPointF(left, knob.y()), QPointF(knob.x() - radius, knob.y()));
+        painter.drawLine(QPointF(knob.x() + radius, knob.y()), QPointF(right, knob.y()));
+        painter.drawEllipse(knob, radius, radius);
+    }
+}
+
+void drawQuestionMark(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    painter.drawEllipse(QPointF(12, 12), 9, 9);
+    drawCentred(painter, QRectF(0, 0, 24, 24), QStringLiteral("?"), 13, false);
+}
+
+void drawMore(const Canvas& canvas) {
+    useUnitSquare(canvas);
+    canvas.painter.setPen(Qt::NoPen);
+    canvas.painter.setBrush(Qt::white);
+    for (const double x : {5.5, 12.0, 18.5}) {
+        canvas.painter.drawEllipse(QPointF(x, 12), 1.9, 1.9);
+    }
+}
+
 struct Drawing {
     QLatin1String name;
     void (*draw)(const Canvas&);
@@ -106,6 +182,12 @@ const std::array kDrawings{
     Drawing{QLatin1String("panel"), drawPanel},
     Drawing{QLatin1String("root"), drawRoot},
     Drawing{QLatin1String("calculator.png"), drawCalculator},
+    Drawing{QLatin1String("equation.png"), drawEquation},
+    Drawing{QLatin1String("graph.png"), drawGraph},
+    Drawing{QLatin1String("reference.png"), drawReference},
+    Drawing{QLatin1String("settings.png"), drawSettings},
+    Drawing{QLatin1String("questionMark.png"), drawQuestionMark},
+    Drawing{QLatin1String("more"), drawMore},
 };
 
 bool draw(QStringView name, const Canvas& canvas) {

@@ -124,6 +124,12 @@ void KeyboardScreenAdapter::tapHistoryRow(int row, bool left) {
     }
 }
 
+void KeyboardScreenAdapter::copyHistoryRow(int row, bool left) {
+    if (const DisplayHistoryTableViewController* table = m_controller->displayTableViewController()) {
+        table->copyFromRow(row + table->nTipCells(), left);
+    }
+}
+
 void KeyboardScreenAdapter::tapEntryLine(double x, double y) {
     const ActionScope action;
     m_controller->entryLineTapped({x, y});
@@ -141,7 +147,9 @@ void KeyboardScreenAdapter::closeEditMenu() {
 
 void KeyboardScreenAdapter::copy() {
     const ActionScope action;
-    view().currentEntryLabel().perform(EditCommand::Copy);
+    if (m_controller->finishTypedName()) {
+        view().currentEntryLabel().perform(EditCommand::Copy);
+    }
 }
 
 bool KeyboardScreenAdapter::pressHardwareKey(int key, const QString& text, int modifiers) {
@@ -157,7 +165,7 @@ bool KeyboardScreenAdapter::pressShortcut(int key) {
     CalculatorLabel& label = view().currentEntryLabel();
     switch (key) {
     case Qt::Key_C:
-        label.perform(EditCommand::Copy);
+        copy();
         return true;
     case Qt::Key_V:
         // Free text is no line: what is not known to be tokens would be guessed at.
@@ -194,5 +202,9 @@ void KeyboardScreenAdapter::layoutChanged() {
 }
 
 void KeyboardScreenAdapter::showEditMenu(bool /*shown*/) { Q_EMIT editMenuRefreshed(); }
+
+void KeyboardScreenAdapter::showNotice(const std::string& text) {
+    Q_EMIT notice(QString::fromStdString(text));
+}
 
 } // namespace velmora

@@ -78,6 +78,8 @@ public:
     Q_INVOKABLE void pressKey(int row);
     /// A tap on one end of a row of the history: the line's (left) or the result's.
     Q_INVOKABLE void tapHistoryRow(int row, bool left);
+    /// Copies the line (left) or the result of a row of the history.
+    Q_INVOKABLE void copyHistoryRow(int row, bool left);
     Q_INVOKABLE void tapEntryLine(double x, double y);
     Q_INVOKABLE void openEditMenu();
     Q_INVOKABLE void closeEditMenu();
@@ -92,6 +94,7 @@ public:
     void keysChanged() override;
     void layoutChanged() override;
     void showEditMenu(bool shown) override;
+    void showNotice(const std::string& text) override;
 
 Q_SIGNALS:
     void layoutRefreshed();

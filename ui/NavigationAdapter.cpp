@@ -3,6 +3,7 @@
 #include "platform/ActionScope.h"
 #include "platform/NavigationController.h"
 #include "platform/TabBarController.h"
+#include "ui/MoreListAdapter.h"
 #include "ui/SceneAdapter.h"
 #include "ui/ScreenAdapters.h"
 
@@ -47,13 +48,19 @@ void NavigationAdapter::refresh() {
     m_stackSubscription =
         navigation ? navigation->stackChanged().subscribe([this](bool) { refresh(); }) : Subscription();
     const auto top = navigation ? navigation->topViewController() : selected();
-    if (top != m_top) {
+    const bool moreList = m_tabBar->showsMoreList();
+    if (top != m_top || moreList != m_showsMoreList) {
         m_top = top;
+        m_showsMoreList = moreList;
         m_topSubscription =
             m_top ? m_top->changed().subscribe([this] { Q_EMIT barChanged(); }) : Subscription();
         // The former screen may be asking for this; it goes when QML has let go of it.
         QObject* former = m_screen.release();
-        m_screen = m_top ? newScreenAdapter(m_top, m_scene) : nullptr;
+        if (moreList) {
+            m_screen = std::make_unique<MoreListAdapter>(m_tabBar, m_scene);
+        } else {
+            m_screen = m_top ? newScreenAdapter(m_top, m_scene) : nullptr;
+        }
         Q_EMIT screenChanged();
         if (former != nullptr) {
             former->deleteLater();
@@ -64,22 +71,37 @@ void NavigationAdapter::refresh() {
 }
 
 QUrl NavigationAdapter::qmlFile() const {
-    const std::string file = m_top && m_screen ? m_top->qmlFile() : std::string();
+    std::string file = m_top && m_screen ? m_top->qmlFile() : std::string();
+    if (m_showsMoreList) {
+        file = "MoreList.qml";
+    }
     return file.empty() ? QUrl() : QUrl(QStringLiteral("qrc:/Velmora/") + QString::fromStdString(file));
 }
 
-bool NavigationAdapter::isBarHidden() const { return !stack() || !m_top || m_top->hidesNavigationBar(); }
+bool NavigationAdapter::isBarHidden() const {
+    return !m_showsMoreList && (!stack() || !m_top || m_top->hidesNavigationBar());
+}
 
 double NavigationAdapter::barHeight() const {
     return isBarHidden() ? 0 : m_scene.navigationBarHeight(m_scene.statusBarOrientation());
 }
 
 QString NavigationAdapter::title() const {
+    if (m_showsMoreList) {
+        return tr("More");
+    }
     return m_top ? QString::fromStdString(m_top->title()) : QString();
+}
+
+bool NavigationAdapter::isBehindMore() const {
+    return !m_showsMoreList && m_tabBar->selectedIndex() >= m_tabBar->visibleTabCount();
 }
 
 QString NavigationAdapter::backTitle() const {
     const NavigationController* navigation = stack();
+    if (navigation && navigation->viewControllers().size() == 1 && isBehindMore()) {
+        return tr("More");
+    }
     if (!navigation || navigation->viewControllers().size() < 2 || !m_top->leftBarButtons().empty()) {
         return {};
     }
@@ -98,8 +120,11 @@ QVariantList NavigationAdapter::rightButtons() const {
 
 void NavigationAdapter::goBack() {
     const ActionScope action;
-    if (NavigationController* navigation = stack()) {
+    NavigationController* navigation = stack();
+    if (navigation && navigation->viewControllers().size() > 1) {
         navigation->pop();
+    } else if (isBehindMore()) {
+        m_tabBar->showMoreList();
     }
 }
 

@@ -57,11 +57,13 @@ Q_SIGNALS:
 private:
     std::shared_ptr<ViewController> selected() const;
     NavigationController* stack() const;
+    bool isBehindMore() const;
     void refresh();
 
     std::shared_ptr<TabBarController> m_tabBar;
     SceneAdapter& m_scene;
     std::shared_ptr<ViewController> m_top;
+    bool m_showsMoreList = false;
     std::unique_ptr<QObject> m_screen;
     std::vector<Subscription> m_subscriptions;
     Subscription m_stackSubscription;

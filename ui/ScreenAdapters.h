@@ -11,6 +11,6 @@ class ViewController;
 
 /// What shows a screen's controller to QML; null, logged, for a controller that nothing draws.
 std::unique_ptr<QObject> newScreenAdapter(const std::shared_ptr<ViewController>& controller,
-                                          const SceneAdapter& scene);
+                                          SceneAdapter& scene);
 
 } // namespace velmora

@@ -36,7 +36,7 @@ QVariant TabBarAdapter::data(const QModelIndex& index, int role) const {
     case TitleRole:
         return more ? tr("More") : QString::fromStdString(tabs[row]->tabTitle());
     case IconRole:
-        return more ? QVariant(QUrl()) : icon(*tabs[row]);
+        return more ? QVariant(m_scene.artwork("more")) : icon(*tabs[row]);
     case SelectedRole:
         return more ? behindMore : !m_tabBar->showsMoreList() && m_tabBar->selectedIndex() == row;
     default:

@@ -2,12 +2,14 @@
 #include "calculator/DisplayHistoryTableViewController.h"
 #include "calculator/KeyboardViewController.h"
 #include "calculator/Model.h"
+#include "platform/DocumentsFolder.h"
 #include "platform/Log.h"
 #include "platform/NavigationController.h"
 #include "platform/SavingRegistry.h"
 #include "platform/ScreenRegistry.h"
 #include "platform/SettingsTargetRegistry.h"
 #include "platform/Sound.h"
+#include "tests/platform/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -96,7 +98,12 @@ TEST_F(VelmoraAppDelegateTest, unitConverterOpensAgainOverTheCalculator) {
     };
     ScreenRegistry::shared().registerScreen("UnitConvertViewController",
                                             [] { return std::make_shared<Converter>(); });
+    const TemporaryFolder home;
+    PlainDocumentsFolder documents(home.path());
+    const DocumentsFolderScope documentsScope(documents);
     Model::m().setUnitConverterIsPushed(true);
+    app.applicationDidEnterBackground(); // which saves
+    Model::resetForTests();
     app.applicationDidFinishLaunching();
     app.tabBarController()->appear();
     EXPECT_NE(app.calculator()->navigationController()->topViewController(), app.calculator());

@@ -33,6 +33,7 @@ public:
     void keysChanged() override { ++keyChanges; }
     void layoutChanged() override { ++layouts; }
     void showEditMenu(bool shown) override { menuShown = shown; }
+    void showNotice(const std::string& text) override { notice = text; }
 
     int reloads = 0;
     int scrolls = 0;
@@ -41,6 +42,7 @@ public:
     int keyChanges = 0;
     int layouts = 0;
     bool menuShown = false;
+    std::string notice;
 };
 
 /// A screen that only has a name.

@@ -190,28 +190,5 @@ TEST_F(CalculatorLineTest, longLineKeepsTheCursorInView) {
     EXPECT_EQ(entry(), std::string(28, '1') + "_112222222222"); // this much fits before the cursor
 }
 
-TEST_F(CalculatorLineTest, editMenuCopiesTheLine) {
-    open();
-    press("2 π");
-    CalculatorLabel& label = keyboard->keyboardView().currentEntryLabel();
-    label.doubleTapped();
-    EXPECT_TRUE(screen.menuShown);
-    EXPECT_EQ(label.record().backgroundColor, Color::white(0.2, 0.3));
-    EXPECT_FALSE(label.perform(EditCommand::Paste));
-    EXPECT_FALSE(label.perform(EditCommand::Cut));
-    EXPECT_TRUE(label.perform(EditCommand::Copy));
-    EXPECT_FALSE(screen.menuShown);
-    EXPECT_EQ(label.record().backgroundColor, Color::white(0.2));
-    EXPECT_EQ(pasteboard.text(), "2π");
-
-    label.doubleTapped();
-    keyboard->entryLineTapped({100, 210}); // only closes the menu
-    EXPECT_FALSE(label.showsMenu());
-    EXPECT_EQ(entry(), "2π");
-    label.cut();
-    EXPECT_EQ(entry(), "");
-    EXPECT_EQ(pasteboard.text(), "2π");
-}
-
 } // namespace
 } // namespace velmora::test

@@ -20,7 +20,7 @@ TEST_F(HardwareKeysTest, keysEditTheLineLikeThoseOnScreen) {
         {"2 × 3 ÷ 4 − 1", "2*3/4-1"},
         {"e e", "ee"}, // typed letters never turn into another title
         {"2 E 3", "2E3"},
-        {"p π i", "ππi"},
+        {"p i π i 2", "ππi2"},
         {"1 2 3 Home 4", "4_123"},
         {"1 2 3 Home Delete End 4", "234"},
         {"1 2 Left Right Right 3 Delete", "123"},
@@ -50,41 +50,82 @@ TEST_F(HardwareKeysTest, escapeAndTheClearKeyCountTogether) {
     EXPECT_EQ(history(), Texts{});
 }
 
-TEST_F(HardwareKeysTest, onlyDefinedVariablesAndSignsAreTyped) {
+/// What a person types on a hardware keyboard, and the tokens that the line holds then, with blanks
+/// between; letters still being typed come behind.
+struct TypedCase {
+    int entering;
+    const char* typed;
+    const char* tokens;
+    const char* pending;
+    const char* notice; // a part of it, or empty
+};
+
+TEST_F(HardwareKeysTest, lettersBecomeTheNamesTheySpell) {
     Model& model = Model::m();
-    const struct {
-        int entering;
-        ExpressionList* target;
-        const char* typed;
-        const char* ignored;
-    } cases[] = {
-        {0, nullptr, "", "xytθ<≥q"},           {1, &model.equations(), "x", "ytθ<"},
-        {1, &model.polarR(), "θ", "xyt"},      {1, &model.constants(), "", "xytθ"},
-        {2, &model.parametricY(), "t", "xyθ"}, {5, &model.impliedFunctions(), "xy", "tθ>"},
-        {4, nullptr, "xy<>≥≤", "tθ"},
+    model.constants().setNameAtIndex(1, "mass");
+    model.constants().setExpressionAtIndex(1, ExpressionWithTokenArray(tokens("5")), false);
+    ExpressionList* const targets[] = {
+        nullptr, &model.equations(),       &model.parametricY(), &model.polarR(),
+        nullptr, &model.impliedFunctions()};
+    const TypedCase cases[] = {
+        {0, "sin", "", "sin", ""},
+        {0, "2asin(3", "2 asin( 3", "", ""},
+        {0, "xsin(", "sin(", "", "begins with “x”"}, // no variable here; the rest is still typed
+        {1, "xsin(x", "x sin( x", "", ""},           // a product of a variable and a call
+        {1, "xx^x", "x x ^ x", "", ""},
+        {1, "y1(x", "y1( x", "", ""},
+        {1, "ty<≥", "", "t", "begins with “ty”"}, // what waits is not lost
+        {2, "t+tanh(t", "t + tanh(", "t", ""},
+        {3, "θcos(θ", "θ cos( θ", "", ""},
+        {4, "xy<", "x y", "", ""},
+        {5, "x(y+e2", "x ( y + e 2", "", ""}, // what could have begun "y1(" and "erf("
+        {0, "pi/piei", "π / π", "ei", ""},
+        {0, "SQRT(2)+Im(i)", "sqrt( 2 ) + Im( i )", "", ""},
+        {0, "2mass", "2 @k2", "", ""},
+        {0, "ISADensityKgM3(1", "ISADensityKgM3( 1", "", ""},
+        {0, "2E-3", "2 E - 3", "", ""},
+        {0, "lo+g(7", "log( 7", "", "“lo” is only the start of log(, logbase("},
+        {0, "2qé", "2", "", "begins with “é”"},
+        {0, "sinq(", "sin(", "", "begins with “sinq”"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.entering);
-        open(c.entering, c.target);
-        const std::string before = entry();
-        for (const std::string& letter : splitCodePoints(c.ignored)) {
-            EXPECT_FALSE(keyboard->hardwareKey(letter)) << letter;
+    for (const TypedCase& c : cases) {
+        SCOPED_TRACE(c.typed);
+        screen.notice.clear();
+        open(c.entering, targets[c.entering]);
+        for (const std::string& character : splitCodePoints(c.typed)) {
+            keyboard->hardwareKey(character);
         }
-        EXPECT_EQ(entry(), before);
-        for (const std::string& letter : splitCodePoints(c.typed)) {
-            EXPECT_TRUE(keyboard->hardwareKey(letter)) << letter;
+        std::string line;
+        for (const TokenElement& element : keyboard->displayModel()->tokenArray()) {
+            line += (line.empty() ? "" : " ") + (element.token() ? element.token()->description() : "ans");
         }
+        EXPECT_EQ(line, c.tokens);
+        EXPECT_EQ(keyboard->typedName(), c.pending);
+        EXPECT_TRUE(screen.notice.find(c.notice) != std::string::npos &&
+                    screen.notice.empty() == std::string(c.notice).empty())
+            << screen.notice;
     }
-    EXPECT_EQ(entry(), "xy≤0");
 }
 
-TEST_F(HardwareKeysTest, typedVariableIsNotReplacedByPi) {
-    open(1, &Model::m().equations());
-    type("x x");
-    EXPECT_EQ(entry(), "y1(x)=xx");
-    key("x π")->pressed();
-    key("x π")->pressed();
-    EXPECT_EQ(entry(), "y1(x)=xxπ");
+TEST_F(HardwareKeysTest, lettersStandAtTheCursorAndAreEditedLikeKeys) {
+    open();
+    type("4 Enter 1 2 Left s");
+    EXPECT_EQ(entry(), "1s_2");
+    press("7"); // only the start of a name: refused, and nothing is lost
+    EXPECT_EQ(entry(), "1s_2");
+    type("i Backspace");
+    EXPECT_EQ(entry(), "1s_2");
+    type("i n");
+    press("(");
+    EXPECT_EQ(entry(), "1sin(_2");
+    type("End e");
+    press("+");
+    EXPECT_EQ(entry(), "1sin(2e+");
+    type("a n s Escape a n s * i Enter");
+    EXPECT_EQ(history(), (Texts{"4 = 4", "ans*i = 4i"}));
+    type("c o");
+    press("del clr");
+    EXPECT_EQ(entry(), "");
 }
 
 TEST_F(HardwareKeysTest, tapMovesTheCursorToTheNearestGap) {

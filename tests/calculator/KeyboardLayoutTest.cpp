@@ -4,8 +4,6 @@
 #include "calculator/KeyboardGeometry.h"
 #include "calculator/KeyboardLayoutStrings.h"
 
-#include <set>
-
 namespace velmora::test {
 namespace {
 
@@ -188,30 +186,6 @@ TEST_F(KeyboardLayoutTest, coloursAndFonts) {
     EXPECT_TRUE(logHolds("Assertion failure"));
 }
 
-TEST_F(KeyboardLayoutTest, everyShownKeyHasAColourAndASpokenName) {
-    for (const DeviceClass deviceClass : {DeviceClass::Phone, DeviceClass::Tablet}) {
-        for (const int displayMode : {0, 1}) {
-            for (int entering = 0; entering <= 5; ++entering) {
-                SCOPED_TRACE(entering);
-                device = PlainDevice(deviceClass);
-                Model::m().setDisplayMode(displayMode);
-                open(entering);
-                std::set<std::string> names;
-                for (const auto& button : keyboard->keyboardView().buttonArray()) {
-                    if (button->isShown()) {
-                        EXPECT_NE(button->appearance().accessibleName, "");
-                        EXPECT_TRUE(names.insert(button->appearance().accessibleName).second)
-                            << button->appearance().accessibleName;
-                    }
-                }
-            }
-        }
-    }
-    EXPECT_FALSE(logHolds("Assertion failure"));
-    EXPECT_EQ(key("func")->appearance().accessibleName, "functions");
-    EXPECT_EQ(key("")->appearance().accessibleName, "square root");
-}
-
 TEST_F(KeyboardLayoutTest, unknownGeometriesAndModesHaveNoKeys) {
     EXPECT_EQ(keyboardLayoutString(5, 0, 0), "");
     EXPECT_EQ(keyboardLayoutString(0, 6, 0), "");
@@ -253,35 +227,6 @@ TEST(ButtonGridTest, doubleKeyInTheLowerLeft) {
     EXPECT_EQ(grid.frameForButtonAtIndex(8), (Rect{3, 42, 44, 16}));
     EXPECT_EQ(grid.frameForButtonAtIndex(9), (Rect{53, 42, 19, 16}));
     EXPECT_EQ(grid.frameForButtonAtIndex(10), (Rect{78, 42, 19, 16}));
-}
-
-TEST(CalculatorButtonTest, titlesAreSplitAtBlanksAndJoinedAgain) {
-    const struct {
-        const char* title;
-        Texts alternatives;
-    } cases[] = {
-        {"7", {"7"}},      {"e E", {"e", "E"}}, {"", {""}}, {"a b c", {"a", "b", "c"}},
-        {" π", {"", "π"}}, {"π ", {"π", ""}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.title);
-        const auto button = CalculatorButton::newButton({});
-        button->setTitleString(c.title);
-        EXPECT_EQ(button->titleArray(), c.alternatives);
-        EXPECT_EQ(button->titleString(), c.title);
-    }
-}
-
-TEST_F(KeyboardLayoutTest, existingKeysOfAnotherNumberAreAFault) {
-    ButtonLayout layout;
-    layout.addGrid(ButtonGrid({0, 0, 40, 20}, 2, 1, 0, 0));
-    auto buttons = layout.newButtonArray();
-    ASSERT_EQ(buttons.size(), 2U);
-    buttons.pop_back();
-    buttons[0]->setFrame({});
-    layout.layoutExistingButtonArray(buttons);
-    EXPECT_EQ(buttons[0]->frame(), (Rect{0, 0, 20, 20}));
-    EXPECT_TRUE(logHolds("Assertion failure"));
 }
 
 } // namespace

@@ -76,6 +76,24 @@ TEST(AtomicFile, setsDamagedFilesAsideOneByOne) {
     EXPECT_EQ(entryCount(folder.path()), 3);
 }
 
+TEST(AtomicFile, clearsAwayWhatAKilledWriterLeft) {
+    const TemporaryFolder folder;
+    const fs::path file = folder.path() / "state";
+    const std::pair<const char*, bool> rows[] = {
+        {"state.aB3dE9", true}, {"state.aB3dE", false}, {"other.aB3dE9", false}, {"state.young9", false}};
+    for (const auto& [name, removed] : rows) {
+        std::ofstream(folder.path() / name) << name;
+        if (std::string(name) != "state.young9") {
+            fs::last_write_time(folder.path() / name,
+                                fs::file_time_type::clock::now() - std::chrono::hours(1));
+        }
+    }
+    EXPECT_TRUE(writeFileAtomically(file, "new"));
+    for (const auto& [name, removed] : rows) {
+        EXPECT_EQ(fs::exists(folder.path() / name), !removed) << name;
+    }
+}
+
 TEST(DocumentsFolder, isMadeWhenAskedForAndAbsentByDefault) {
     EXPECT_EQ(documentPath("file"), std::nullopt);
     const TemporaryFolder folder;

@@ -19,6 +19,10 @@ namespace velmora {
 
 RunningProgram::RunningProgram(QSize windowSize) : m_touchScreen(QTest::createTouchDevice()) {
     qputenv("XDG_DATA_HOME", m_home.path().c_str());
+    start(windowSize);
+}
+
+void RunningProgram::start(QSize windowSize) {
     Model::resetForTests();
     SavingRegistry::shared().reset();
     ScreenRegistry::shared().reset();
@@ -33,6 +37,12 @@ RunningProgram::RunningProgram(QSize windowSize) : m_touchScreen(QTest::createTo
 }
 
 RunningProgram::~RunningProgram() = default;
+
+void RunningProgram::startAgain() {
+    const QSize size = window().size();
+    m_application.reset();
+    start(size);
+}
 
 void RunningProgram::resize(QSize size) {
     window().resize(size);
@@ -154,6 +164,23 @@ void RunningProgram::type(const QString& text) {
         QTest::sendKeyEvent(QTest::Click, &window(), Qt::Key_unknown, QString(character), Qt::NoModifier);
     }
     settle();
+}
+
+void RunningProgram::scrollTo(const QString& name) {
+    static_cast<void>(QTest::qWaitFor([&] { return isOnScreen(name); }, 2000)); // rows come by and by
+    const QQuickItem* target = item(name);
+    for (QQuickItem* parent = target != nullptr ? target->parentItem() : nullptr; parent != nullptr;
+         parent = parent->parentItem()) {
+        if (parent->inherits("QQuickFlickable")) {
+            const double top = target->mapToItem(parent, QPointF()).y();
+            const double end = parent->property("originY").toDouble() +
+                               parent->property("contentHeight").toDouble() - parent->height();
+            const double wanted = parent->property("contentY").toDouble() + top - parent->height() / 2;
+            parent->setProperty("contentY", std::clamp(wanted, 0.0, std::max(0.0, end)));
+            settle();
+            return;
+        }
+    }
 }
 
 void RunningProgram::wheel(QPoint point, int notches) {

@@ -33,6 +33,8 @@ public:
     Application& application() { return *m_application; }
     QQuickView& window() { return m_application->window(); }
     void resize(QSize size);
+    /// Ends without another word, as a killed program does, and starts on the same files.
+    void startAgain();
 
     // What is on screen.
     /// The visible item of that spoken name; null, with a failure, when there is none.
@@ -57,6 +59,8 @@ public:
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     /// Characters of a hardware keyboard.
     void type(const QString& text);
+    /// Scrolls a list until the row of that spoken name is in view.
+    void scrollTo(const QString& spokenName);
     void wheel(QPoint point, int notches);
     void drag(QPoint from, QPoint to);
     /// Lets everything that is due happen.
@@ -68,6 +72,7 @@ public:
     QPointingDevice* touchScreen() { return m_touchScreen.get(); }
 
 private:
+    void start(QSize windowSize);
     void collect(QQuickItem* item, std::vector<QQuickItem*>& found) const;
 
     TemporaryFolder m_home;

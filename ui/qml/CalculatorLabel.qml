@@ -29,6 +29,16 @@ Item {
     Text {
         id: line
 
+        // Where the last line ends, for the caret of lines that begin at the left.
+        property double lastLineY: 0
+        property double lastLineEnd: 0
+
+        onLineLaidOut: laidOut => {
+            if (laidOut.isLast) {
+                lastLineY = laidOut.y
+                lastLineEnd = laidOut.x + laidOut.implicitWidth
+            }
+        }
         anchors.fill: parent
         text: root.label.text
         font: root.label.font
@@ -43,10 +53,15 @@ Item {
     }
     Rectangle {
         id: caret
-        visible: root.screen.cursorAtEnd && blink.lit && root.label.alignment === Text.AlignRight
-        anchors { left: line.right; leftMargin: 2; verticalCenter: line.verticalCenter }
+
+        readonly property bool atRight: root.label.alignment === Text.AlignRight
+        readonly property double lineHeight: line.contentHeight / Math.max(1, line.lineCount)
+
+        visible: root.screen.cursorAtEnd && blink.lit
+        x: atRight ? parent.width + 2 : Math.min(line.text === "" ? 0 : line.lastLineEnd + 1, parent.width)
+        y: atRight ? 2 : (parent.height - line.contentHeight) / 2 + (line.lineCount > 1 ? line.lastLineY : 0) + 2
         width: 1.5
-        height: parent.height - 4
+        height: (atRight ? parent.height : lineHeight) - 4
         color: "#7db2ff"
     }
     Timer {

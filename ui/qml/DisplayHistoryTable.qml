@@ -11,6 +11,10 @@ Rectangle {
     readonly property var rowOutput: screen.rowOutput
     readonly property rect rowLeftButton: screen.rowLeftButton
     readonly property rect rowRightButton: screen.rowRightButton
+    // The end of a row that is held to be copied from, in the screen's view; no row while it is -1.
+    property int heldRow: -1
+    property bool heldLeft: false
+    property rect heldPlace
 
     x: screen.historyFrame.x
     y: screen.historyFrame.y
@@ -21,6 +25,9 @@ Rectangle {
 
     Connections {
         target: root.screen
+        function onHistoryRefreshed() {
+            root.heldRow = -1 // rows may have moved
+        }
         function onScrolledToEnd(animated) {
             list.followsEnd = true
             list.goToEnd(animated)
@@ -60,6 +67,11 @@ Rectangle {
             height: root.screen.rowHeight
             table: root
             onTapped: left => root.screen.tapHistoryRow(index, left)
+            onHeld: (left, item) => {
+                root.heldPlace = item.mapToItem(root.parent, 0, 0, item.width, item.height)
+                root.heldLeft = left
+                root.heldRow = index
+            }
         }
 
         NumberAnimation {

@@ -1,35 +1,36 @@
 import QtQuick
-import Velmora
 
-// The edit menu over the entry line. A tap beside it closes it.
+// A menu that offers to copy what lies under a place of the screen. A tap beside it closes it.
 Item {
     id: root
 
-    required property KeyboardScreenAdapter screen
+    required property rect target
+    required property url panelArtwork
+
+    signal copyChosen()
+    signal closed()
 
     MouseArea {
         anchors.fill: parent
-        onClicked: root.screen.closeEditMenu()
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: root.closed()
+        onWheel: root.closed()
         Accessible.ignored: true
     }
-    Item {
-        id: target
-        x: root.screen.editMenuTarget.x
-        y: root.screen.editMenuTarget.y
-        width: root.screen.editMenuTarget.width
-        height: root.screen.editMenuTarget.height
-    }
     ArtworkImage {
-        anchors { right: target.right; rightMargin: -12; bottom: target.top; bottomMargin: 10 }
-        width: copyText.implicitWidth + 36
-        height: 38
-        source: root.screen.panelArtwork
+        readonly property real above: root.target.y - height - 10
+
+        x: Math.max(8, Math.min(root.width - width - 8, root.target.x + (root.target.width - width) / 2))
+        y: above >= 4 ? above : root.target.y + root.target.height + 10
+        width: copyText.implicitWidth + 44
+        height: 44
+        source: root.panelArtwork
         opacity: press.pressed ? 0.75 : 1
 
         Accessible.ignored: false
         Accessible.role: Accessible.MenuItem
         Accessible.name: copyText.text
-        Accessible.onPressAction: root.screen.copy()
+        Accessible.onPressAction: root.copyChosen()
 
         Text {
             id: copyText
@@ -42,7 +43,7 @@ Item {
         MouseArea {
             id: press
             anchors.fill: parent
-            onClicked: root.screen.copy()
+            onClicked: root.copyChosen()
             Accessible.ignored: true
         }
     }

@@ -1,6 +1,7 @@
 import QtQuick
 
-// The invisible button over one end of a row. Dragging from it scrolls the history.
+// The invisible button over one end of a row. Dragging from it scrolls the history; resting on it, or the
+// right mouse button, holds it.
 Item {
     id: root
 
@@ -9,6 +10,7 @@ Item {
     required property string spokenDescription
 
     signal tapped()
+    signal held()
 
     x: frame.x
     y: frame.y
@@ -28,7 +30,16 @@ Item {
     }
     TapHandler {
         id: tap
-        longPressThreshold: 86400
-        onTapped: root.tapped()
+        property bool wasHeld: false
+        onPressedChanged: if (pressed) wasHeld = false
+        onLongPressed: {
+            wasHeld = true
+            root.held()
+        }
+        onTapped: if (!wasHeld) root.tapped()
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: root.held()
     }
 }

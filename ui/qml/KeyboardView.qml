@@ -24,6 +24,7 @@ FocusScope {
         color: root.screen.backgroundColor
     }
     DisplayHistoryTable {
+        id: history
         screen: root.screen
     }
     Rectangle {
@@ -53,7 +54,23 @@ FocusScope {
         anchors.fill: parent
         active: root.screen.editMenuShown
         sourceComponent: EditMenu {
-            screen: root.screen
+            target: root.screen.editMenuTarget
+            panelArtwork: root.screen.panelArtwork
+            onCopyChosen: root.screen.copy()
+            onClosed: root.screen.closeEditMenu()
+        }
+    }
+    Loader {
+        anchors.fill: parent
+        active: history.heldRow >= 0
+        sourceComponent: EditMenu {
+            target: history.heldPlace
+            panelArtwork: root.screen.panelArtwork
+            onCopyChosen: {
+                root.screen.copyHistoryRow(history.heldRow, history.heldLeft)
+                history.heldRow = -1
+            }
+            onClosed: history.heldRow = -1
         }
     }
     Notice {

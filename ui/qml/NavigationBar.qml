@@ -27,7 +27,7 @@ Rectangle {
             delegate: BarTextButton {
                 required property int index
                 required property var modelData
-                height: left.height
+                height: parent.height
                 text: modelData.title
                 enabled: modelData.enabled
                 onPressed: root.navigation.pressLeftButton(index)
@@ -39,6 +39,8 @@ Rectangle {
         text: root.navigation.title
         color: "white"
         font { pixelSize: 17; bold: true }
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 11
         elide: Text.ElideRight
         textFormat: Text.PlainText
         horizontalAlignment: Text.AlignHCenter
@@ -54,7 +56,7 @@ Rectangle {
             delegate: BarTextButton {
                 required property int index
                 required property var modelData
-                height: right.height
+                height: parent.height
                 text: modelData.title
                 enabled: modelData.enabled
                 onPressed: root.navigation.pressRightButton(index)

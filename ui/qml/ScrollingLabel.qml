@@ -1,6 +1,6 @@
 import QtQuick
 
-// One line of text that can be pushed sideways where it is longer than its place.
+// One line of text that can be pushed sideways where it is longer than its place; it fades where it goes on.
 Flickable {
     id: root
 
@@ -29,5 +29,21 @@ Flickable {
         horizontalAlignment: root.label.alignment
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
+    }
+    Loader {
+        active: root.interactive
+        sourceComponent: Item {
+            x: root.contentX
+            width: root.width
+            height: root.height
+            EdgeFade {
+                visible: !root.atXBeginning
+            }
+            EdgeFade {
+                anchors.right: parent.right
+                visible: !root.atXEnd
+                rotation: 180
+            }
+        }
     }
 }

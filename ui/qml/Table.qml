@@ -5,6 +5,8 @@ import Velmora
 ListView {
     id: root
 
+    property bool worksByKeys: false // since a key was pressed on one of its rows
+
     clip: true
     boundsBehavior: contentHeight > height ? Flickable.DragAndOvershootBounds : Flickable.StopAtBounds
     reuseItems: false

@@ -7,6 +7,7 @@ Rectangle {
     id: root
 
     property bool selectable: true
+    readonly property bool pressed: tap.pressed
     property string spokenName
     property string spokenDescription
     property int spokenRole: Accessible.ListItem
@@ -15,6 +16,12 @@ Rectangle {
 
     color: selectable && tap.pressed ? Theme.pressed : Theme.surface
     activeFocusOnTab: selectable
+    Keys.onPressed: event => {
+        if (ListView.view) {
+            ListView.view.worksByKeys = true
+        }
+        event.accepted = false
+    }
     Keys.onSpacePressed: if (selectable) tapped()
     Keys.onReturnPressed: if (selectable) tapped()
     Keys.onEnterPressed: if (selectable) tapped()
@@ -27,13 +34,14 @@ Rectangle {
 
     Rectangle {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: Theme.margin }
-        height: 0.5
+        height: 1
         color: Theme.separator
     }
     Rectangle {
         anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
         width: 3
-        visible: root.activeFocus
+        // Who touches does not need to be shown where the focus is.
+        visible: root.activeFocus && (!root.ListView.view || root.ListView.view.worksByKeys)
         color: Theme.accent
     }
     TapHandler {

@@ -8,10 +8,11 @@ QtObject {
     readonly property color surface: "#1b1e23"    // of a row
     readonly property color pressed: "#2c313a"    // of a row under the finger
     readonly property color bar: "#22252a"
-    readonly property color separator: "#34383e"
+    readonly property color separator: "#2b2f36"
     readonly property color text: "#f4f6f8"
     readonly property color secondaryText: "#a9b1bc"
     readonly property color accent: "#8fbcff"     // what can be tapped: texts, switches, the chosen item
+    readonly property color chosen: "#2f62a8"     // the ground of what is chosen or on
     readonly property color danger: "#ff8a80"
 
     readonly property int titleSize: 17

@@ -1,0 +1,137 @@
+#include "calculator/ConstantEditViewController.h"
+
+#include "calculator/KeyboardViewController.h"
+#include "calculator/Model.h"
+#include "engine/BivarTable.h"
+#include "engine/UnivarTable.h"
+#include "platform/Alert.h"
+#include "platform/NavigationController.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velmora {
+
+namespace {
+
+// What means something by itself in a line.
+constexpr std::array<std::string_view, 9> kOtherNames{"x", "y", "t",   "θ",          "e",
+                                                      "i", "π", "ans", "conditional"};
+
+constexpr std::string_view kForbiddenCharacters = "()[]{},= \t\n";
+
+NamedExpressionList& constants() { return Model::m().constants(); }
+
+bool isFunctionName(const std::string& name) {
+    const std::string token = name + "(";
+    const bool userFunction = name.size() == 2 && name[0] == 'y' && name[1] >= '1' && name[1] <= '4';
+    return userFunction || univarTypeWithToken(token) != UnivarType::NoFunction ||
+           bivarTypeWithToken(token) != BivarType::NoOperator;
+}
+
+bool isNameOfAnother(const std::string& name, int slot) {
+    for (int other = 0; other < constants().maxExpressions(); ++other) {
+        const std::string plain = constants().internalRepresentationWithIndex(other).substr(1);
+        if (other != slot && (name == plain || name == constants().fullFunctionNameWithIndex(other))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string trimmed(const std::string& text) {
+    constexpr const char* blanks = " \t\r\n";
+    const auto first = text.find_first_not_of(blanks);
+    return first == std::string::npos ? std::string()
+                                      : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+} // namespace
+
+std::string reasonAgainstConstantName(const std::string& name, int slot) {
+    if (name.find_first_of(kForbiddenCharacters) != std::string::npos) {
+        return "A name holds no brackets, commas, blanks or equals signs.";
+    }
+    if (isFunctionName(name)) {
+        return "“" + name + "” is the name of a function.";
+    }
+    if (std::ranges::find(kOtherNames, name) != kOtherNames.end()) {
+        return "“" + name + "” already has a meaning of its own.";
+    }
+    if (isNameOfAnother(name, slot)) {
+        return "“" + name + "” is the name of another constant.";
+    }
+    return {};
+}
+
+ConstantEditViewController::ConstantEditViewController(int slot) : m_slot(slot) {
+    setTitle(name().empty() ? plainName() : name());
+}
+
+std::string ConstantEditViewController::plainName() const {
+    return constants().internalRepresentationWithIndex(m_slot).substr(1);
+}
+
+std::string ConstantEditViewController::name() const {
+    const std::string& full = constants().fullFunctionNameWithIndex(m_slot);
+    return full == plainName() ? std::string() : full;
+}
+
+bool ConstantEditViewController::setName(const std::string& text) {
+    const std::string newName = trimmed(text);
+    const std::string reason = newName.empty() ? std::string() : reasonAgainstConstantName(newName, m_slot);
+    if (!reason.empty()) {
+        presentAlert({.title = "This name cannot be used", .message = reason});
+        m_contentsChanged.emit(); // the former name shows again
+        return false;
+    }
+    constants().setNameAtIndex(m_slot, newName == plainName() ? std::string() : newName);
+    setTitle(newName.empty() ? plainName() : newName);
+    m_contentsChanged.emit();
+    return true;
+}
+
+std::string ConstantEditViewController::valueText() const { return constants().expressionString(m_slot); }
+
+void ConstantEditViewController::editValue() {
+    NavigationController* stack = navigationController();
+    if (!stack) {
+        return;
+    }
+    setBackButtonTitle("Cancel");
+    auto editor = std::make_shared<KeyboardViewController>(kEnteringFunction);
+    editor->setTitle("Constant");
+    editor->setEnteringWhichEquation(m_slot);
+    editor->setDisplayModel(
+        std::make_unique<ExpressionWithTokenArray>(*constants().expressionTokenArray(m_slot)));
+    editor->setTarget(&constants());
+    stack->push(std::move(editor));
+}
+
+bool ConstantEditViewController::isDefined() const {
+    return constants().nonemptyExpressionAtIndex(m_slot) || !name().empty();
+}
+
+void ConstantEditViewController::deleteConstant() {
+    presentAlert({.title = "Delete " + (name().empty() ? plainName() : name()) + "?",
+                  .message = "Lines that use it are undefined until it has a value again.",
+                  .buttons = {"Cancel", "Delete"},
+                  .onChosen = [this](int button) {
+                      if (button == 1) {
+                          constants().setExpressionAtIndex(m_slot, ExpressionWithTokenArray(), false);
+                          setName({});
+                      }
+                  }});
+}
+
+void ConstantEditViewController::viewWillAppear(bool animated) {
+    static_cast<void>(animated);
+    setBackButtonTitle({});
+    m_contentsChanged.emit(); // the value may have been edited
+}
+
+bool ConstantEditViewController::shouldAutorotate(Orientation orientation) const {
+    return Model::m().shouldAutorotateToInterfaceOrientation(orientation);
+}
+
+} // namespace velmora

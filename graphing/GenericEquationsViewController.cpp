@@ -1,0 +1,75 @@
+#include "graphing/GenericEquationsViewController.h"
+
+#include "calculator/KeyboardViewController.h"
+#include "calculator/Model.h"
+#include "engine/ExpressionList.h"
+#include "platform/NavigationController.h"
+#include "platform/ScreenMetrics.h"
+#include "platform/ScreenRegistry.h"
+#include "toolkit/OrvChoiceSettingsCell.h"
+#include "toolkit/OrvPickTableViewController.h"
+
+#include <cmath>
+
+namespace velmora {
+
+namespace {
+
+constexpr double kRowsPerScreen = 0.25; // of the height: four rows fill it
+
+} // namespace
+
+GenericEquationsViewController::GenericEquationsViewController() { setTabImage("equation.png"); }
+
+double GenericEquationsViewController::combinedHeightOfAllRows() {
+    const ScreenMetrics& metrics = screenMetrics();
+    return metrics.screenSize().height - metrics.tabBarHeight() -
+           metrics.navigationBarHeight(currentDevice().statusBarOrientation());
+}
+
+double GenericEquationsViewController::heightForRow() const {
+    return std::trunc(combinedHeightOfAllRows() * kRowsPerScreen);
+}
+
+void GenericEquationsViewController::push(std::shared_ptr<ViewController> screen) {
+    if (NavigationController* stack = navigationController(); stack && screen) {
+        stack->push(std::move(screen));
+    }
+}
+
+void GenericEquationsViewController::createRangeButton() {
+    setRightBarButtons({{"Range", [this] { push(ScreenRegistry::shared().make("RangeViewController")); }}});
+}
+
+void GenericEquationsViewController::openEditor(int entering, ExpressionList& target, int slot) {
+    const TokenArray* tokens = target.expressionTokenArray(slot);
+    if (!tokens) {
+        return;
+    }
+    setBackButtonTitle("Cancel");
+    auto editor = std::make_shared<KeyboardViewController>(entering);
+    editor->setTitle("Equation");
+    editor->setEnteringWhichEquation(slot);
+    editor->setDisplayModel(std::make_unique<ExpressionWithTokenArray>(*tokens));
+    editor->setTarget(&target);
+    push(std::move(editor));
+}
+
+void GenericEquationsViewController::switchButtonPressed() {
+    push(std::make_shared<OrvPickTableViewController>(std::make_shared<OrvListPickSettingsCell>(
+        "Graph type", OrvBoundSettingsCell::Binding{"Model", "graphType"},
+        std::vector<std::string>{"function", "polar", "parametric"})));
+}
+
+void GenericEquationsViewController::viewWillAppear(bool /*animated*/) {
+    setBackButtonTitle({}); // "Cancel" holds for the editor only
+    m_reloaded.emit();
+}
+
+void GenericEquationsViewController::didRotate(Orientation /*from*/) { m_reloaded.emit(); }
+
+bool GenericEquationsViewController::shouldAutorotate(Orientation orientation) const {
+    return Model::m().shouldAutorotateToInterfaceOrientation(orientation);
+}
+
+} // namespace velmora

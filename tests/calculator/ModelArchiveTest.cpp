@@ -1,0 +1,277 @@
+#include "calculator/ModelArchive.h"
+#include "calculator/Model.h"
+#include "calculator/ModelProperties.h"
+#include "platform/AtomicFile.h"
+#include "platform/DocumentsFolder.h"
+#include "platform/SavingRegistry.h"
+#include "tests/engine/TokenLine.h"
+#include "tests/platform/LogRecorder.h"
+#include "tests/platform/TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+#include <map>
+#include <random>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace velmora {
+namespace {
+
+using testing::ElementsAre;
+
+/// A folder for the user's files, and a model as at a first start.
+class ModelArchive : public testing::Test {
+protected:
+    ModelArchive() { Model::resetForTests(); }
+    ~ModelArchive() override { Model::resetForTests(); }
+
+    static Model& freshModel() {
+        Model::resetForTests();
+        return Model::m();
+    }
+    static Model& loaded(PropertyDictionary archive) {
+        loadArchivedModel(freshModel(), PropertyList(std::move(archive)));
+        return Model::m();
+    }
+    std::filesystem::path file() const { return home.path() / "Calculator archive"; }
+
+    TemporaryFolder home;
+    PlainDocumentsFolder folder{home.path()};
+    DocumentsFolderScope folderScope{folder};
+};
+
+void store(ExpressionList& list, int slot, const std::string& line) {
+    list.setExpressionAtIndex(slot, ExpressionWithTokenArray(tokens(line)), false);
+}
+
+/// Every list full, every setting other than at a first start.
+void fill(Model& model) {
+    for (const ModelProperty& property : modelProperties()) {
+        const PropertyList before = property.get(model);
+        switch (property.type) {
+        case PropertyType::Boolean:
+            property.set(model, !*before.asBool());
+            break;
+        case PropertyType::Integer: {
+            const auto changed = *before.asInteger() + 1;
+            property.set(model, static_cast<double>(changed) <= property.maximum ? changed : changed - 2);
+            break;
+        }
+        case PropertyType::Number:
+            property.set(model, *before.asDouble() / 3 + 1e-17);
+            break;
+        }
+    }
+    const std::pair<ExpressionList*, const char*> lists[] = {{&model.equations(), "sin( x ) / "},
+                                                             {&model.parametricX(), "cos( t ) + "},
+                                                             {&model.parametricY(), "sin( t ) ^ "},
+                                                             {&model.polarR(), "θ - "},
+                                                             {&model.impliedFunctions(), "x y * "}};
+    for (const auto& [list, line] : lists) {
+        for (int slot = 0; slot < 4; ++slot) {
+            store(*list, slot, line + std::to_string(slot + 1));
+        }
+    }
+    for (int slot = 0; slot < 50; ++slot) {
+        store(model.constants(), slot, std::to_string(slot % 10) + " / 3");
+        model.constants().setNameAtIndex(slot, "name" + std::to_string(slot));
+        model.history().addExpressionTokenArray(tokens(slot % 3 == 0   ? "2 + @k7"
+                                                       : slot % 3 == 1 ? "1 +"
+                                                                       : "rand( 9 ) i"));
+        model.history().entryAtIndex(slot)->keepResult();
+    }
+    model.impliedFunctions().levelCurveHeightsAtIndex(2)->setHeightAtIndex(0, 1.0 / 3);
+    model.inequalityArray()[1].insertToken(Token("x"));
+    model.inequalityArray()[1].setInequalityTypeWithToken(Token("≥"));
+}
+
+TEST_F(ModelArchive, bringsAFullModelBack) {
+    fill(Model::m());
+    int saves = 0;
+    SavingRegistry::shared().registerSaver("converter", [&saves] { ++saves; });
+    Model::m().save();
+    SavingRegistry::shared().reset();
+    EXPECT_EQ(saves, 1);
+    std::map<std::string, PropertyList> settings;
+    for (const ModelProperty& property : modelProperties()) {
+        settings.emplace(property.key, property.get(Model::m()));
+    }
+    std::vector<std::string> results;
+    for (int row = 0; row < 50; ++row) {
+        results.push_back(Model::m().history().entryAtIndex(row)->resultText());
+    }
+    PropertyDictionary saved = *archivedModel(Model::m()).asDictionary();
+
+    Model& model = freshModel();
+    model.setNHasBecomeActive(2); // activations before the load are not lost
+    model.load();
+    EXPECT_FALSE(model.trailingZeroes());
+    model.setTrailingZeroes(true); // as when the results were noted
+    settings["soundVolume"] = 0.3;
+    settings["iOnMainKeyboard"] = false;
+    settings["displayMode"] = 4;             // this is a phone
+    settings["pickerSelectedUnitIndex"] = 0; // of earlier releases: no longer written
+    settings["nHasBecomeActive"] = *settings["nHasBecomeActive"].asInteger() + 2;
+    for (const ModelProperty& property : modelProperties()) {
+        EXPECT_EQ(property.get(model), settings[std::string(property.key)]) << property.key;
+    }
+    for (int row = 0; row < 50; ++row) {
+        EXPECT_EQ(model.history().entryAtIndex(row)->resultText(), results[static_cast<std::size_t>(row)]);
+    }
+    EXPECT_EQ(model.constants().fullFunctionNameWithIndex(49), "name49");
+    EXPECT_EQ(model.angleModeAsString(), "Degrees");
+    saved["nHasBecomeActiveKey"] = model.nHasBecomeActive();
+    saved["iOnMainKeyboard"] = false;
+    const PropertyDictionary savedAgain = *archivedModel(model).asDictionary();
+    EXPECT_EQ(savedAgain.size(), saved.size());
+    for (const auto& [key, value] : savedAgain) {
+        EXPECT_EQ(binaryPropertyList(value), binaryPropertyList(saved[key])) << key; // NaN is NaN
+    }
+}
+
+TEST_F(ModelArchive, readsDefaultsForWhatIsAbsentOrUnusable) {
+    struct Row {
+        const char* what;
+        PropertyDictionary archive;
+        const char* property;
+        PropertyList value;
+    };
+    const double infinity = std::numeric_limits<double>::infinity();
+    const Row rows[] = {
+        {"nothing", {}, "maxDigitsForDecimalNotation", 9},
+        {"nothing", {}, "displayDigits", 5},
+        {"nothing", {}, "xMaxForGraph", 10.062695924764892},
+        {"nothing", {}, "putLabelsOnGraph", true},
+        {"nothing", {}, "thetaEndForPolarGraph", 6.283185307179586},
+        {"no display mode", {}, "displayMode", 1},
+        {"a phone's", {{"displayModeEnumKey", 4}}, "displayMode", 1},
+        {"the last", {{"displayModeEnumKey", 3}}, "displayMode", 3},
+        {"beyond the last", {{"displayModeEnumKey", 9}}, "displayMode", 1},
+        {"off, not absent", {{"PutLabelsOnGraphKey", false}}, "putLabelsOnGraph", false},
+        {"0, not absent", {{"tEndForParametricGraph", 0.0}}, "tEndForParametricGraph", 0.0},
+        {"a number for a switch", {{"ShakeToResetKey", 0}}, "shakeToResetGraph", true},
+        {"a switch for a number", {{"Angle Mode", true}}, "angleMode", 0},
+        {"a text", {{"displayDigitsKey", "7"}}, "displayDigits", 5},
+        {"out of range", {{"displayDigitsKey", 13}}, "displayDigits", 5},
+        {"out of range", {{"Graph Mode", -1}}, "graphType", 0},
+        {"an infinite end",
+         {{"thetaEndForPolarGraph", infinity}},
+         "thetaEndForPolarGraph",
+         6.283185307179586},
+        {"one bound", {{"xMinForGraphKey", 2.0}}, "xMaxForGraph", 2 + 1e-9},
+        {"one bound", {{"xMinForGraphKey", 2.0}}, "yMinForGraph", 0.0},
+        {"not the first", {{"xMaxForGraphKey", 2.0}}, "xMaxForGraph", 10.062695924764892},
+        {"no number", {{"xMinForGraphKey", 2.0}, {"yMaxForGraphKey", infinity}}, "xMinForGraph", -10.0},
+        {"the letter i", {{"iOnMainKeyboard", true}}, "iOnMainKeyboard", false},
+        {"an earlier release", {{"PickerSelectedUnitIndex", -3}}, "pickerSelectedUnitIndex", 0},
+        {"too many activations",
+         {{"nHasBecomeActiveKey", std::int64_t{1} << 40}},
+         "nHasBecomeActive",
+         std::numeric_limits<int>::max()},
+    };
+    PlainDevice tablet(DeviceClass::Tablet);
+    const DeviceScope scope(tablet);
+    for (const Row& row : rows) {
+        EXPECT_EQ(loaded(row.archive).valueForKey(row.property), row.value)
+            << row.what << " " << row.property;
+        EXPECT_EQ(Model::m().inequalityArray().size(), 4U);
+    }
+    const PropertyArray rowsOfAnEarlierRelease{1, 2};
+    loaded({{"SelectedUnitConverterPickerRows", rowsOfAnEarlierRelease}});
+    EXPECT_EQ(Model::m().selectedUnitConverterPickerRows(), rowsOfAnEarlierRelease);
+}
+
+TEST_F(ModelArchive, valuesRowsWithoutOneOnceAllIsRead) {
+    Model& model = loaded({{"ModelHistoryTokenArrays", PropertyArray{PropertyArray{"@k1", "+", "1"}}},
+                           {"ConstantsArrays", PropertyArray{PropertyArray{"4"}}},
+                           {"ConstantsNameArrays", PropertyArray{7, "mass"}}});
+    EXPECT_EQ(model.history().entryAtIndex(0)->resultText(), "5");
+    store(model.constants(), 0, "9");
+    EXPECT_EQ(model.history().entryAtIndex(0)->resultText(), "5");
+    EXPECT_EQ(model.constants().fullFunctionNameWithIndex(1), "mass");
+}
+
+TEST_F(ModelArchive, setsAsideAFileItCannotRead) {
+    for (const char* bytes : {"no archive", "bplist00", "<plist><array/></plist>"}) {
+        const LogRecorder log;
+        writeFileAtomically(file(), std::string_view(bytes));
+        freshModel().load();
+        EXPECT_THAT(log.lines(), testing::Contains("catch"));
+        EXPECT_FALSE(std::filesystem::exists(file()));
+        EXPECT_EQ(Model::m().displayDigits(), 5);
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(home.path()), {}), 3);
+}
+
+TEST_F(ModelArchive, survivesEveryFlippedBitAndEveryTruncation) {
+    const LogRecorder log;
+    store(Model::m().constants(), 0, "1 / 3");
+    Model::m().history().addExpressionTokenArray(tokens("2 sin( @k1 )"));
+    Model::m().history().addExpressionTokenArray(tokens("normVarBetween( G=6.674(8) , gcd( 1 2 , 8 ) )"));
+    PropertyDictionary small = *archivedModel(Model::m()).asDictionary();
+    small.erase("ConstantsNameArrays");
+    small["ConstantsArrays"] = PropertyArray{small["ConstantsArrays"].asArray()->front()};
+    const PropertyData bytes = binaryPropertyList(small);
+    ASSERT_GT(bytes.size(), 1800U);
+    int understood = 0;
+    for (std::size_t bit = 0; bit < bytes.size() * 8; ++bit) {
+        PropertyData flipped = bytes;
+        flipped[bit / 8] ^= static_cast<std::uint8_t>(1U << bit % 8);
+        if (const auto archive = readPropertyList(flipped)) {
+            loadArchivedModel(Model::m(), *archive);
+            if (bit % 64 == 0) {
+                EXPECT_FALSE(binaryPropertyList(archivedModel(Model::m())).empty());
+            }
+            ++understood;
+        }
+    }
+    EXPECT_GT(understood, 1000);
+    for (std::size_t length = 0; length < bytes.size(); ++length) {
+        const auto archive = readPropertyList(
+            PropertyData(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)));
+        loadArchivedModel(Model::m(), archive.value_or(PropertyList()));
+    }
+}
+
+TEST_F(ModelArchive, aKilledProgramLeavesTheOldStateOrTheNew) {
+    // A state is whole when its lines all say the same number.
+    const auto saveState = [](int number) {
+        for (int slot = 0; slot < 50; ++slot) {
+            store(Model::m().constants(), slot, std::to_string(number % 7));
+        }
+        Model::m().setXMinForGraph(number % 7);
+        Model::m().setXMaxForGraph(100);
+        Model::m().save();
+    };
+    saveState(1);
+    std::mt19937 random(7);
+    int betweenStates = 0;
+    for (int round = 0; round < 200; ++round) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            for (int number = 0;; ++number) {
+                saveState(number);
+            }
+        }
+        ::usleep(500 + random() % 6000);
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+        freshModel().load();
+        const double number = Model::m().xMinForGraph();
+        betweenStates += std::distance(std::filesystem::directory_iterator(home.path()), {}) > 1 ? 1 : 0;
+        for (int slot = 0; slot < 50; ++slot) {
+            ASSERT_EQ(Model::m().constants().expression(slot)->value(), number) << round;
+        }
+    }
+    EXPECT_GT(betweenStates, 0) << "none was killed while it wrote";
+}
+
+} // namespace
+} // namespace velmora

@@ -1,0 +1,263 @@
+// The lists, equations, settings and help as a person works them, on the real screens.
+
+#include "tests/ui/RunningProgram.h"
+
+#include "calculator/Model.h"
+#include "platform/ScreenRegistry.h"
+
+#include <QAccessible>
+#include <QPointingDevice>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace velmora {
+namespace {
+
+QString utf8(const char* text) { return QString::fromUtf8(text); }
+
+class Screens : public testing::TestWithParam<QSize> {
+protected:
+    RunningProgram program{GetParam()};
+    /// Names pictures by the size of the window.
+    void picture(const char* name) {
+        program.takePicture(utf8(name) + u'-' + QString::number(GetParam().width()) + u'x' +
+                            QString::number(GetParam().height()));
+    }
+    void openSettings() {
+        program.click(utf8("More"));
+        program.click(utf8("Settings"));
+    }
+    /// Types into the field of a settings row and presses Enter.
+    void enter(const char* field, const char* text) {
+        program.click(utf8(field));
+        QTest::keySequence(&program.window(), QKeySequence::SelectAll);
+        for (const char* c = text; *c != 0; ++c) {
+            QTest::keyClick(&program.window(), *c);
+        }
+        program.press(Qt::Key_Return);
+    }
+};
+
+TEST_P(Screens, listsPutTheirEntriesIntoTheLine) {
+    program.click(utf8("functions"));
+    picture("functions");
+    program.click(utf8("Roots and logarithms"));
+    picture("functions-roots");
+    program.touch(utf8("cube root; of a negative number the real one, cbrt()"));
+    EXPECT_EQ(program.line(), utf8("cbrt("));
+    program.click(utf8("constants"));
+    picture("constants");
+    program.click(utf8("Universal"));
+    picture("constants-universal");
+    program.click(utf8("speed of light in vacuum, m/s, c"));
+    EXPECT_EQ(program.line(), utf8("cbrt(c"));
+    program.click(utf8("trigonometric functions"));
+    program.click(utf8("Degrees"));
+    EXPECT_EQ(Model::m().angleMode(), 1);
+    picture("trigonometry");
+    program.press(Qt::Key_Down);
+    program.click(utf8("sine, sin()"));
+    EXPECT_EQ(program.line(), utf8("cbrt(csin("));
+}
+
+TEST_P(Screens, aConstantIsNamedDefinedAndUsed) {
+    program.click(utf8("constants"));
+    program.click(utf8("User-defined constants"));
+    program.click(utf8("Edit"));
+    program.click(utf8("k2 from user-defined constants, k2"));
+    picture("constant");
+    enter("Name", "mass");
+    program.click(utf8("Value, not defined"));
+    picture("constant-value");
+    program.type(utf8("12/5"));
+    program.press(Qt::Key_Return);
+    picture("constant-defined");
+    program.click(utf8("Back to User-defined constants"));
+    program.click(utf8("Done"));
+    picture("own-constants");
+    program.click(utf8("k2 from user-defined constants, mass = 12/5"));
+    program.press(Qt::Key_Return);
+    EXPECT_EQ(program.historyRows(), QStringList{utf8("mass is 2.4")});
+}
+
+TEST_P(Screens, equationsAreEditedSavedAndRefused) {
+    program.click(utf8("Equations"));
+    picture("equations-empty");
+    program.touch(utf8("y1(x)= empty"));
+    picture("editor");
+    program.type(utf8("2x^3-x/5+1"));
+    program.press(Qt::Key_Return);
+    EXPECT_TRUE(program.isOnScreen(utf8("y1(x)=2x^3-x/5+1")));
+    program.click(utf8("y2(x)= empty"));
+    program.type(utf8("y1(x)+1"));
+    program.press(Qt::Key_Return);
+    program.click(utf8("y1(x)=2x^3-x/5+1"));
+    program.type(utf8("+y2(x)"));
+    program.press(Qt::Key_Return);
+    EXPECT_TRUE(program.isOnScreen(utf8("Recursion found.")));
+    picture("recursion");
+    program.click(utf8("OK"));
+    program.click(utf8("Back to Cancel"));
+    EXPECT_TRUE(program.isOnScreen(utf8("y1(x)=2x^3-x/5+1")));
+    for (const char* text : {"sin(x)/x", "x"}) {
+        program.click(utf8(text[0] == 's' ? "y3(x)= empty" : "y4(x)= empty"));
+        program.type(utf8(text));
+        program.press(Qt::Key_Return);
+    }
+    picture("equations");
+    program.click(utf8("y4(x)=x"));
+    program.click(utf8("Clear+Save"));
+    EXPECT_TRUE(program.isOnScreen(utf8("y4(x)= empty")));
+    Model::m().setGraphType(2);
+    program.settle();
+    picture("equations-parametric");
+    program.click(utf8("x1(t)= empty"));
+    program.type(utf8("cos(3t)"));
+    program.press(Qt::Key_Return);
+    program.click(utf8("Range"));
+    picture("range");
+    enter("Ending t", "6.5");
+    EXPECT_EQ(Model::m().tEndForParametricGraph(), 6.5);
+    program.click(utf8("Back to Parametric Equations"));
+    EXPECT_TRUE(program.isOnScreen(utf8("x1(t)=cos(3t)")));
+    Model::m().setGraphType(1);
+    program.settle();
+    program.click(utf8("r2(θ)= empty"));
+    program.type(utf8("2"));
+    program.press(Qt::Key_Return);
+    EXPECT_TRUE(program.isOnScreen(utf8("r2(θ)=2")));
+    picture("equations-polar");
+}
+
+TEST_P(Screens, everythingIsThereAgainAfterAKillInTheBackground) {
+    program.type(utf8("2/3"));
+    program.press(Qt::Key_Return);
+    program.click(utf8("Equations"));
+    program.click(utf8("y3(x)= empty"));
+    program.type(utf8("x^2"));
+    program.press(Qt::Key_Return);
+    openSettings();
+    enter("Display decimal places", "3");
+    program.window().hide(); // into the background
+    program.settle();
+    Model::m().setDisplayDigits(9); // lost: nothing is saved at other moments
+    program.startAgain();
+    EXPECT_EQ(program.historyRows(), QStringList{utf8("2/3 is 0.667")});
+    program.click(utf8("Equations"));
+    EXPECT_TRUE(program.isOnScreen(utf8("y3(x)=x^2")));
+    EXPECT_TRUE(Model::m().settingsHaveBeenAccessed());
+    EXPECT_EQ(Model::m().nHasBecomeActive(), 2);
+}
+
+TEST_P(Screens, helpIsRead) {
+    program.click(utf8("More"));
+    picture("more");
+    program.click(utf8("Help"));
+    picture("help");
+    program.click(utf8("Getting started"));
+    picture("page");
+    EXPECT_TRUE(program.isOnScreen(utf8("Open parentheses")));
+    program.click(utf8("Back to Help"));
+    program.click(utf8("Back to More"));
+    EXPECT_TRUE(program.isOnScreen(utf8("Settings")));
+}
+
+TEST_P(Screens, everySettingIsChangedOnItsRow) {
+    Model& model = Model::m();
+    openSettings();
+    EXPECT_TRUE(model.settingsHaveBeenAccessed());
+    picture("settings");
+    struct Switch {
+        const char* title;
+        bool (Model::*get)() const;
+        bool after;
+    };
+    const Switch switches[] = {{"Trailing zeroes", &Model::trailingZeroes, true},
+                               {"Commas in numbers", &Model::commasInNumbers, true},
+                               {"Button click sound", &Model::soundIsOn, true},
+                               {"Graph Labels", &Model::putLabelsOnGraph, false},
+                               {"Shake to Reset", &Model::shakeToResetGraph, false},
+                               {"Same scale X&Y", &Model::sameScaleXAndY, true},
+                               {"Black", &Model::graphBackgroundIsBlack, true}};
+    for (const Switch& row : switches) {
+        program.scrollTo(utf8(row.title));
+        program.touch(utf8(row.title));
+        EXPECT_EQ((model.*row.get)(), row.after) << row.title;
+    }
+    EXPECT_TRUE(program.isOnScreen(utf8("Max Y is set for same scale")));
+    program.scrollTo(utf8("Same scale X&Y"));
+    program.click(utf8("Same scale X&Y"));
+    struct Pick {
+        const char* row;
+        const char* choice;
+        int (Model::*get)() const;
+        int after;
+    };
+    const Pick picks[] = {{"Angles, Radians", "Degrees", &Model::angleMode, 1},
+                          {"Type of Graph, function", "polar", &Model::graphType, 1},
+                          {"Grid Lines, Close together", "Far apart", &Model::graphGridLineType, 1}};
+    for (const Pick& row : picks) {
+        program.scrollTo(utf8(row.row));
+        program.click(utf8(row.row));
+        picture(row.choice);
+        program.click(utf8(row.choice));
+        EXPECT_EQ((model.*row.get)(), row.after) << row.row;
+    }
+    struct Number {
+        const char* title;
+        const char* typed;
+        const char* key;
+        PropertyList after;
+    };
+    const Number numbers[] = {{"Max digits for decimal notation", "7", "maxDigitsForDecimalNotation", 7},
+                              {"Display decimal places", "12", "displayDigits", 12},
+                              {"Min X", "-2e-1", "xMinForGraph", -0.2},
+                              {"Max X", "+3", "xMaxForGraph", 3.0},
+                              {"Min Y", "-.5", "yMinForGraph", -0.5},
+                              {"Max Y", "7.25", "yMaxForGraph", 7.25}};
+    for (const Number& row : numbers) {
+        program.scrollTo(utf8(row.title));
+        enter(row.title, row.typed);
+        EXPECT_EQ(model.valueForKey(row.key), row.after) << row.title;
+        for (const char* wrong : {"abc", "13.5.", "1e999"}) {
+            enter(row.title, wrong);
+            EXPECT_TRUE(program.isOnScreen(utf8("OK"))) << wrong;
+            program.press(Qt::Key_Return);
+            EXPECT_EQ(model.valueForKey(row.key), row.after) << wrong;
+        }
+    }
+    program.scrollTo(utf8("Display decimal places"));
+    enter("Display decimal places", "13");
+    picture("refused");
+    program.click(utf8("OK"));
+    EXPECT_EQ(model.displayDigits(), 12);
+    if (GetParam().width() < 600) {
+        program.scrollTo(utf8("Large"));
+        program.click(utf8("Large"));
+        EXPECT_TRUE(model.largeFontsOnPhone());
+        EXPECT_FALSE(program.isOnScreen(utf8("Allowed orientations")));
+    } else {
+        program.scrollTo(utf8("Both"));
+        program.click(utf8("Both"));
+        EXPECT_EQ(model.orientationMode(), 2);
+        program.scrollTo(utf8("Portrait Display, Large Keys"));
+        program.click(utf8("Portrait Display, Large Keys"));
+        program.click(utf8("Small Keys"));
+        EXPECT_EQ(model.displayMode(), 0);
+    }
+    program.scrollTo(utf8("About"));
+    picture("settings-end");
+    const auto buttons = program.items(QAccessible::Button);
+    const auto about = std::ranges::find_if(
+        buttons, [&](const QQuickItem* button) { return program.spokenName(button) == utf8("About"); });
+    ASSERT_NE(about, buttons.end());
+    program.clickAt(program.pointOf(*about)); // the section has the same name
+    EXPECT_TRUE(program.isOnScreen(utf8("Velmora")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, Screens, testing::Values(QSize(375, 667), QSize(768, 1024)),
+                         [](const auto& size) { return size.param.width() < 600 ? "phone" : "tablet"; });
+
+} // namespace
+} // namespace velmora

@@ -1,0 +1,65 @@
+import QtQuick
+import Velmora
+
+// A choice of a few, side by side.
+Rectangle {
+    id: root
+
+    property var items: []
+    property int currentIndex: 0
+    property string spokenName
+
+    signal chosen(int index)
+
+    implicitWidth: 90 * items.length
+    implicitHeight: 32
+    radius: 8
+    color: Theme.pressed
+    Accessible.role: Accessible.Grouping
+    Accessible.name: spokenName
+
+    Row {
+        anchors { fill: parent; margins: 2 }
+        Repeater {
+            model: root.items
+            delegate: Rectangle {
+                id: segment
+
+                required property int index
+                required property string modelData
+                readonly property bool isCurrent: index === root.currentIndex
+
+                width: (root.width - 4) / root.items.length
+                height: root.height - 4
+                radius: 6
+                color: isCurrent ? Theme.chosen : "transparent"
+                border { width: activeFocus ? 1.5 : 0; color: Theme.accent }
+                activeFocusOnTab: true
+                Keys.onSpacePressed: root.chosen(index)
+                Keys.onReturnPressed: root.chosen(index)
+                Accessible.role: Accessible.RadioButton
+                Accessible.name: modelData
+                Accessible.checkable: true
+                Accessible.checked: isCurrent
+                Accessible.onPressAction: root.chosen(index)
+
+                Text {
+                    anchors { fill: parent; margins: 4 }
+                    text: segment.modelData
+                    color: Theme.text
+                    font { pixelSize: 14; bold: segment.isCurrent }
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 9
+                    textFormat: Text.PlainText
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                    Accessible.ignored: true
+                }
+                TapHandler {
+                    longPressThreshold: 86400
+                    onTapped: root.chosen(segment.index)
+                }
+            }
+        }
+    }
+}

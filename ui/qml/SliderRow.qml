@@ -1,0 +1,56 @@
+import QtQuick
+import Velmora
+
+// A row with a knob that is pushed along a line.
+TableRow {
+    id: root
+
+    property string title
+    property double fraction: 0
+
+    signal moved(double fraction)
+
+    height: 50
+    selectable: false
+    activeFocusOnTab: true
+    spokenName: title
+    spokenRole: Accessible.Slider
+    Keys.onLeftPressed: moved(Math.max(0, fraction - 0.1))
+    Keys.onRightPressed: moved(Math.min(1, fraction + 0.1))
+
+    Text {
+        anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+        text: root.title
+        color: Theme.text
+        font.pixelSize: Theme.textSize
+        Accessible.ignored: true
+    }
+    Item {
+        id: track
+        anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+        width: 0.45 * parent.width
+        height: 40
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            height: 4
+            radius: 2
+            color: Theme.pressed
+        }
+        Rectangle {
+            x: root.fraction * (track.width - width)
+            anchors.verticalCenter: parent.verticalCenter
+            width: 24
+            height: 24
+            radius: 12
+            color: Theme.text
+        }
+        MouseArea {
+            anchors.fill: parent
+            preventStealing: true
+            onPressed: mouse => move(mouse.x)
+            onPositionChanged: mouse => move(mouse.x)
+            function move(x) { root.moved(Math.max(0, Math.min(1, (x - 12) / (width - 24)))) }
+        }
+    }
+}
