@@ -10,8 +10,6 @@
 #include "platform/ScreenRegistry.h"
 #include "platform/TabBarController.h"
 
-#include <ranges>
-
 namespace velmora {
 
 namespace {
@@ -77,8 +75,9 @@ std::shared_ptr<KeyboardViewController> calculatorIn(const NavigationController*
     if (!stack) {
         return nullptr;
     }
-    for (const auto& screen : stack->viewControllers() | std::views::reverse) {
-        if (auto calculator = std::dynamic_pointer_cast<KeyboardViewController>(screen)) {
+    const auto& screens = stack->viewControllers();
+    for (auto screen = screens.rbegin(); screen != screens.rend(); ++screen) {
+        if (auto calculator = std::dynamic_pointer_cast<KeyboardViewController>(*screen)) {
             return calculator;
         }
     }

@@ -11,11 +11,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <csignal>
 #include <fstream>
 #include <map>
 #include <random>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace velmora {
@@ -248,6 +250,12 @@ TEST_F(ModelArchive, aKilledProgramLeavesTheOldStateOrTheNew) {
         Model::m().save();
     };
     saveState(1);
+    const auto begin = std::chrono::steady_clock::now();
+    saveState(2);
+    // However slow the machine, the kills fall anywhere in the child's first three saves.
+    const auto threeSaves =
+        3 * std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - begin)
+                .count();
     std::mt19937 random(7);
     int betweenStates = 0;
     for (int round = 0; round < 200; ++round) {
@@ -258,7 +266,7 @@ TEST_F(ModelArchive, aKilledProgramLeavesTheOldStateOrTheNew) {
                 saveState(number);
             }
         }
-        ::usleep(500 + random() % 6000);
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % threeSaves));
         ::kill(child, SIGKILL);
         int status = 0;
         ::waitpid(child, &status, 0);
