@@ -11,6 +11,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <fstream>
@@ -250,23 +251,32 @@ TEST_F(ModelArchive, aKilledProgramLeavesTheOldStateOrTheNew) {
         Model::m().save();
     };
     saveState(1);
-    const auto begin = std::chrono::steady_clock::now();
-    saveState(2);
-    // However slow the machine, the kills fall anywhere in the child's first three saves.
-    const auto threeSaves =
-        3 * std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - begin)
-                .count();
     std::mt19937 random(7);
     int betweenStates = 0;
     for (int round = 0; round < 200; ++round) {
+        std::array<int, 2> pipe{};
+        ASSERT_EQ(::pipe(pipe.data()), 0);
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
+            // However slow the machine: the child tells how long a save takes it, then saves on and on.
+            const auto begin = std::chrono::steady_clock::now();
+            saveState(round);
+            const std::chrono::duration<double> oneSave = std::chrono::steady_clock::now() - begin;
+            const double seconds = oneSave.count();
+            if (::write(pipe[1], &seconds, sizeof seconds) != sizeof seconds) {
+                ::_exit(1);
+            }
             for (int number = 0;; ++number) {
                 saveState(number);
             }
         }
-        std::this_thread::sleep_for(std::chrono::microseconds(random() % threeSaves));
+        ::close(pipe[1]);
+        double oneSave = 0;
+        ASSERT_EQ(::read(pipe[0], &oneSave, sizeof oneSave), static_cast<ssize_t>(sizeof oneSave));
+        ::close(pipe[0]);
+        std::this_thread::sleep_for(std::uniform_real_distribution(0.0, 2.0)(random) *
+                                    std::chrono::duration<double>(oneSave));
         ::kill(child, SIGKILL);
         int status = 0;
         ::waitpid(child, &status, 0);
