@@ -2,10 +2,9 @@
 
 #include "engine/Expression.h"
 #include "engine/Number.h"
+#include "engine/ShortNumber.h"
 #include "platform/Log.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <string>
 
@@ -21,17 +20,8 @@ constexpr int kRising = 3;
 constexpr int kFalling = 4;
 constexpr int kUndetermined = 5;
 
-std::string shortText(double number) {
-    constexpr std::size_t longest = 32;
-    constexpr int digits = 6;
-    std::array<char, longest> buffer{};
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                            std::chars_format::general, digits);
-    return {buffer.data(), end};
-}
-
 std::string listed(double a, double b, double c) {
-    return shortText(a) + ", " + shortText(b) + ", " + shortText(c);
+    return shortNumber(a) + ", " + shortNumber(b) + ", " + shortNumber(c);
 }
 
 bool isWithin(double value, double least, double greatest) { return value >= least && value <= greatest; }

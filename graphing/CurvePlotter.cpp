@@ -52,7 +52,8 @@ CurvePlotter::CurvePlotter(std::shared_ptr<const Expression> expression, const V
             if (std::fabs(screenY - formerY) < kFarApart) {
                 m_curve.lineTo({screenX, screenY});
             } else {
-                m_pending.push_back({{formerX, screenX - 1, formerY}, {x, screenX, screenY}, m_curve.addGap(), 1});
+                m_pending.push_back(
+                    {{formerX, screenX - 1, formerY}, {x, screenX, screenY}, m_curve.addGap(), 1});
                 if (std::isfinite(screenY)) {
                     m_curve.moveTo({screenX, screenY});
                 }

@@ -40,9 +40,7 @@ bool Viewport::isUsable() const {
     return isRange(xMin, xMax) && isRange(yMin, yMax) && width > 0 && height > 0;
 }
 
-float Viewport::screenX(double x) const {
-    return static_cast<float>((x - xMin) * width / (xMax - xMin));
-}
+float Viewport::screenX(double x) const { return static_cast<float>((x - xMin) * width / (xMax - xMin)); }
 
 float Viewport::screenY(double y) const {
     const double h = static_cast<float>(height);

@@ -68,12 +68,33 @@ void QtDrawingContext::lineTo(Point point) {
     moveTo(point);
 }
 
+/// A line of a grid or an axis covers whole pixels, so all of them look alike: where it lies between two
+/// pixels it moves to the nearest.
+void QtDrawingContext::snapToPixels(QLineF& line, double& width) const {
+    const bool upright = line.x1() == line.x2();
+    if (upright == (line.y1() == line.y2())) {
+        return;
+    }
+    const QTransform& device = m_painter.deviceTransform();
+    const double scale = upright ? device.m11() : device.m22();
+    const double origin = upright ? device.dx() : device.dy();
+    const double pixels = std::max(1.0, std::round(width * scale));
+    const double centre = (upright ? line.x1() : line.y1()) * scale + origin;
+    const double snapped = (std::round(centre - pixels / 2) + pixels / 2 - origin) / scale;
+    line.translate(upright ? snapped - line.x1() : 0, upright ? 0 : snapped - line.y1());
+    width = pixels / scale;
+}
+
 void QtDrawingContext::strokePath() {
     if (!m_lines.isEmpty()) {
+        double width = m_lineWidth;
+        if (m_lines.size() == 1) {
+            snapToPixels(m_lines.front(), width);
+        }
         // Opaque lines meet with square ends, which closes the corners between them; lines that shine
         // through stay flat, or they would be darker where they overlap.
         const Qt::PenCapStyle cap = m_strokeColor.alpha < 1 ? Qt::FlatCap : Qt::SquareCap;
-        m_painter.setPen(QPen(toQColor(m_strokeColor), m_lineWidth, Qt::SolidLine, cap));
+        m_painter.setPen(QPen(toQColor(m_strokeColor), width, Qt::SolidLine, cap));
         m_painter.drawLines(m_lines);
         m_lines.clear();
     }

@@ -28,6 +28,8 @@ public:
     void fillRect(const Rect& rect) override;
 
 private:
+    void snapToPixels(QLineF& line, double& width) const;
+
     QPainter& m_painter;
     Rect m_bounds;
     double m_lineWidth = 1;
