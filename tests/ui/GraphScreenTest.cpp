@@ -164,13 +164,14 @@ TEST_P(GraphScreen, mouseWheelAndKeysWorkItToo) {
     ASSERT_TRUE(png);
     const QImage copied = QImage::fromData(png->data(), int(png->size()), "PNG");
     EXPECT_EQ(copied.width(), qRound(graph->mapRectToScene({0, 0, graph->width(), 1}).width()));
-    const QDir pictures(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-    const QStringList former = pictures.entryList();
+    QDir pictures(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    const QStringList former = pictures.entryList({utf8("Graph*")});
     QTest::mouseClick(&program.window(), Qt::RightButton, Qt::NoModifier, at(0.5, 0.5));
     program.settle();
     program.click(utf8("Save picture"));
     EXPECT_TRUE(program.isOnScreen(utf8("OK")));
-    QStringList saved = pictures.entryList();
+    pictures.refresh();
+    QStringList saved = pictures.entryList({utf8("Graph*")});
     saved.removeIf([&](const QString& name) { return former.contains(name); });
     ASSERT_EQ(saved.size(), 1);
     EXPECT_EQ(QImage(pictures.filePath(saved[0])), copied);
