@@ -36,7 +36,9 @@ TEST(ExpressionAnalysis, findsCrossingsToTheLastDigit) {
           Row{"x ^ 2", "0", 0, 1, 0}, Row{"sqrt( x )", "1", -1, 2, kNone}, // not real at an end
           Row{"1 / x", "0", -1, 1, kNone},                                 // undefined in the middle
           Row{"1 / ( x - 0.3 )", "0", 0, 1, kNone}, // a pole with a rise at its upper side
-          Row{"1 / ( 0.3 - x )", "0", 0, 1, kNone}, Row{"roundDown( x ) + 0.5", "0", -1, 1, kNone}}) {
+          Row{"1 / ( 0.3 - x )", "0", 0, 1, kNone},
+          // a step counts where it rises, and only there
+          Row{"roundDown( x ) + 0.5", "0", -1, 1, 0}, Row{"0.5 - roundDown( x + 1 )", "0", -1, 1, kNone}}) {
         const auto f = parsed(row.f);
         expectFound(f->intersectionWithExpression(*parsed(row.g), row.a, row.b), row.x, 0x1p-51, row.f);
         if (row.g == std::string("0")) {
