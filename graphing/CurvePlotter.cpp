@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmora {
 
@@ -12,7 +13,8 @@ namespace {
 
 constexpr double kFarApart = 30; // points between two samples, from which on they are not simply joined
 constexpr int kDeepest = 50;
-constexpr int kStepsBetweenLooks = 128; // at the clock, which costs as much as an evaluation
+constexpr int kMostStepsBetweenLooks = 128; // at the clock, which costs as much as an evaluation
+constexpr double kSoon = 0.0005;            // seconds between two looks, at least
 
 } // namespace
 
@@ -112,6 +114,7 @@ bool CurvePlotter::refine(double deadline) {
     const double start = monotonicSeconds();
     const double end = std::min(deadline, start + kSecondsPerCurve - m_secondsUsed);
     int steps = 0;
+    int stepsBetweenLooks = 1; // few for expressions that are slow
     double now = start;
     while (!m_pending.empty()) {
         const Task task = m_pending.back();
@@ -122,11 +125,16 @@ bool CurvePlotter::refine(double deadline) {
             continue;
         }
         halve(task);
-        if (++steps % kStepsBetweenLooks == 0) {
-            now = monotonicSeconds();
-            if (now > end) {
-                break;
-            }
+        if (++steps < stepsBetweenLooks) {
+            continue;
+        }
+        const double formerLook = std::exchange(now, monotonicSeconds());
+        if (now > end) {
+            break;
+        }
+        steps = 0;
+        if (now - formerLook < kSoon && stepsBetweenLooks < kMostStepsBetweenLooks) {
+            stepsBetweenLooks *= 2;
         }
     }
     m_secondsUsed += monotonicSeconds() - start;

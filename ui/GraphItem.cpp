@@ -70,9 +70,11 @@ void GraphItem::paint(QPainter& painter) {
     GraphView& view = m_controller->graphView();
     const Rect bounds{0, 0, width(), height()};
     painter.fillRect(toQRectF(bounds), toQColor(view.backgroundColor()));
-    QtDrawingContext context(painter, bounds);
     view.setSize({width(), height()});
-    view.drawRect(context);
+    {
+        QtDrawingContext context(painter, bounds);
+        view.drawRect(context);
+    }
     for (const auto* labels : {&view.hashMarkLabelArray(), &view.graphLabelArray()}) {
         for (const LabelRecord& label : *labels) {
             paintLabel(painter, label, view.backgroundColor());

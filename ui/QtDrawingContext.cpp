@@ -46,6 +46,8 @@ QtDrawingContext::QtDrawingContext(QPainter& painter, const Rect& bounds)
     m_painter.setRenderHint(QPainter::Antialiasing);
 }
 
+QtDrawingContext::~QtDrawingContext() { flush(); }
+
 void QtDrawingContext::setLineWidth(double width) { m_lineWidth = width; }
 
 void QtDrawingContext::setStrokeColor(const Color& color) { m_strokeColor = color; }
@@ -86,34 +88,53 @@ void QtDrawingContext::snapToPixels(QLineF& line, double& width) const {
 }
 
 void QtDrawingContext::strokePath() {
-    if (!m_lines.isEmpty()) {
+    if (m_lines.size() == 1) {
         double width = m_lineWidth;
-        if (m_lines.size() == 1) {
-            snapToPixels(m_lines.front(), width);
-        }
-        // Opaque lines meet with square ends, which closes the corners between them; lines that shine
-        // through stay flat, or they would be darker where they overlap.
-        const Qt::PenCapStyle cap = m_strokeColor.alpha < 1 ? Qt::FlatCap : Qt::SquareCap;
-        m_painter.setPen(QPen(toQColor(m_strokeColor), width, Qt::SolidLine, cap));
-        m_painter.drawLines(m_lines);
-        m_lines.clear();
+        snapToPixels(m_lines.front(), width);
+        setPen(width);
+    } else {
+        setPen(m_lineWidth);
     }
+    m_run.append(m_lines);
+    m_lines.clear();
     m_penIsDown = false;
 }
 
+/// Lines of one look are painted together: changing the pen for each costs as much as painting it.
+void QtDrawingContext::setPen(double width) {
+    if (width != m_penWidth || m_strokeColor != m_penColor) {
+        flush();
+        m_penWidth = width;
+        m_penColor = m_strokeColor;
+    }
+}
+
+void QtDrawingContext::flush() {
+    if (m_run.isEmpty()) {
+        return;
+    }
+    // Opaque lines meet with square ends, which closes the corners between them; lines that shine
+    // through stay flat, or they would be darker where they overlap.
+    const Qt::PenCapStyle cap = m_penColor.alpha < 1 ? Qt::FlatCap : Qt::SquareCap;
+    m_run.paint(m_painter, QPen(toQColor(m_penColor), m_penWidth, Qt::SolidLine, cap), m_penColor.alpha >= 1);
+}
+
 void QtDrawingContext::strokeEllipse(const Rect& rect) {
+    flush();
     m_painter.setPen(QPen(toQColor(m_strokeColor), m_lineWidth));
     m_painter.setBrush(Qt::NoBrush);
     m_painter.drawEllipse(toQRectF(rect));
 }
 
 void QtDrawingContext::fillEllipse(const Rect& rect) {
+    flush();
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(toQColor(m_fillColor));
     m_painter.drawEllipse(toQRectF(rect));
 }
 
 void QtDrawingContext::fillRect(const Rect& rect) {
+    flush();
     m_painter.fillRect(toQRectF(rect), toQColor(m_fillColor));
 }
 
