@@ -123,17 +123,21 @@ std::optional<MinMaxReturn> Expression::investigateReversal(double a, double b, 
         if (sigma * fb > sigma * fm1) {
             c = b;
             b = m1;
-        } else if (!isWithin(fm2, yMin, yMax)) {
-            return std::nullopt;
-        } else if (sigma * fm2 > sigma * fb) {
-            a = m1;
-            c = m2;
-        } else if (sigma * fc > sigma * fm2) {
-            a = b;
-            b = m2;
-        } else {
+            continue;
+        }
+        if (!isWithin(fm2, yMin, yMax)) {
             return std::nullopt;
         }
+        if (sigma * fm2 > sigma * fb) {
+            a = m1;
+            c = m2;
+            continue;
+        }
+        if (!(sigma * fc > sigma * fm2)) {
+            return std::nullopt;
+        }
+        a = b;
+        b = m2;
     }
 }
 

@@ -78,7 +78,8 @@ bool CurvePlotter::isWorthHalving(double y1, double y2) const {
 }
 
 void CurvePlotter::halve(const Task& task) {
-    const auto& [from, to, gap, depth] = task;
+    const Sample& from = task.from;
+    const Sample& to = task.to;
     if (!isWorthHalving(from.screenY, to.screenY)) {
         return;
     }
@@ -88,9 +89,9 @@ void CurvePlotter::halve(const Task& task) {
     middle.screenY = screenYOf(m_expression->valueWithVariableValue(middle.x).real());
     const auto next = [&](const Sample& left, const Sample& right) {
         if (std::fabs(right.screenY - left.screenY) < kFarApart) {
-            m_pending.push_back({left, right, gap, 0});
-        } else if (depth < kDeepest) {
-            m_pending.push_back({left, right, gap, depth + 1});
+            m_pending.push_back({left, right, task.gap, 0});
+        } else if (task.depth < kDeepest) {
+            m_pending.push_back({left, right, task.gap, task.depth + 1});
         }
     };
     next(middle, to); // is done after the left half

@@ -156,6 +156,19 @@ double GraphViewController::zoomBase() const {
     return isTablet() ? onTablet : onPhone;
 }
 
+/// In which direction the fingers have moved since the pinch began.
+GraphViewController::ZoomMode GraphViewController::zoomModeOf(Point vector) const {
+    const auto dx = static_cast<float>(m_touchDifferenceVector.x - vector.x);
+    const auto dy = static_cast<float>(m_touchDifferenceVector.y - vector.y);
+    constexpr double upright = 1000;
+    constexpr double steep = 2.3;
+    const double ratio = dx == 0 ? upright : std::fabs(dy / dx);
+    if (Model::m().sameScaleXAndY() || !(ratio > 1 / steep)) {
+        return ZoomMode::Horizontal; // with equal scales y follows
+    }
+    return ratio > steep ? ZoomMode::Vertical : ZoomMode::Both;
+}
+
 void GraphViewController::zoomGraphWithSortedTouches(const Touches& touches, bool smallZoomOK) {
     const float distance = distanceBetweenTouches(touches);
     if (distance < 0) {
@@ -170,21 +183,7 @@ void GraphViewController::zoomGraphWithSortedTouches(const Touches& touches, boo
         return;
     }
     if (m_zoomMode == ZoomMode::Undecided) {
-        const Point vector = between(touches);
-        const auto dx = static_cast<float>(m_touchDifferenceVector.x - vector.x);
-        const auto dy = static_cast<float>(m_touchDifferenceVector.y - vector.y);
-        constexpr double upright = 1000;
-        constexpr double steep = 2.3;
-        const double ratio = dx == 0 ? upright : std::fabs(dy / dx);
-        if (Model::m().sameScaleXAndY()) {
-            m_zoomMode = ZoomMode::Horizontal; // y follows
-        } else if (ratio > steep) {
-            m_zoomMode = ZoomMode::Vertical;
-        } else if (ratio > 1 / steep) {
-            m_zoomMode = ZoomMode::Both;
-        } else {
-            m_zoomMode = ZoomMode::Horizontal;
-        }
+        m_zoomMode = zoomModeOf(between(touches));
     }
     auto factor = static_cast<float>(std::pow(zoomBase(), (m_touchDistance - distance) / pinchDelta()));
     // A jump of the fingers is a jump of eight steps, of a phone's size on every device: intended.
@@ -319,6 +318,7 @@ void GraphViewController::showGraphMenu() {
         Choice{"Save picture", [](GraphViewController& graph) { graph.savePicture(); }},
     };
     std::vector<std::string> buttons;
+    buttons.reserve(kChoices.size());
     for (const Choice& choice : kChoices) {
         buttons.emplace_back(choice.text);
     }

@@ -84,6 +84,7 @@ private:
     void moveGraphWithTouch(const Touches& touches, bool smallMoveOK);
     void zoomGraphWithSortedTouches(const Touches& touches, bool smallZoomOK);
     float distanceBetweenTouches(const Touches& touches) const;
+    ZoomMode zoomModeOf(Point vector) const;
     float pinchDelta() const;
     double zoomBase() const;
     void traceGraphWithSortedTouches(const Touches& touches);

@@ -120,6 +120,7 @@ HashMarks HashMarks::along(bool vertical, const Viewport& viewport, const HashMa
             labelWidth = std::max(0, static_cast<int>(std::lround(distance - kLabelGap)));
         }
     }
+    const int halfWidth = labelWidth / 2; // whole points
     forEachMultiple(spacing.hashmarkSpacing, low, high, [&](double value) {
         const float along = onScreen(value);
         marks.ticks.push_back(along);
@@ -131,14 +132,13 @@ HashMarks HashMarks::along(bool vertical, const Viewport& viewport, const HashMa
         double y = vertical ? along : axis + offset;
         x += pushedIn(x, width);
         y += pushedIn(y, height);
-        constexpr int half = 2;
-        marks.labels.push_back({.text = std::move(text),
-                                .frame = {x - labelWidth / half, y - kLabelHeight / half,
-                                          static_cast<double>(labelWidth), kLabelHeight},
-                                .fontSize = wide ? 18.0 : 12.0,
-                                .minimumFontSize = kSmallestFont,
-                                .textColor = textColor,
-                                .alignment = TextAlignment::Centre});
+        marks.labels.push_back(
+            {.text = std::move(text),
+             .frame = {x - halfWidth, y - kLabelHeight / 2, static_cast<double>(labelWidth), kLabelHeight},
+             .fontSize = wide ? 18.0 : 12.0,
+             .minimumFontSize = kSmallestFont,
+             .textColor = textColor,
+             .alignment = TextAlignment::Centre});
     });
     return marks;
 }
