@@ -7,6 +7,7 @@
 #include "calculator/RangeViewController.h"
 #include "calculator/SettingsViewController.h"
 #include "graphing/EquationsViewController.h"
+#include "graphing/GraphViewController.h"
 #include "graphing/ParametricEquationsViewController.h"
 #include "platform/SavingRegistry.h"
 #include "platform/ScreenRegistry.h"
@@ -24,6 +25,8 @@ void registerEverything() {
                                             [] { return std::make_shared<SettingsViewController>(); });
     ScreenRegistry::shared().registerScreen("RangeViewController",
                                             [] { return std::make_shared<RangeViewController>(); });
+    ScreenRegistry::shared().registerScreen("GraphViewController",
+                                            [] { return std::make_shared<GraphViewController>(); });
     ScreenRegistry::shared().registerScreen("EquationsViewController",
                                             [] { return std::make_shared<EquationsViewController>(); });
     ScreenRegistry::shared().registerScreen("ParametricEquationsViewController", [] {

@@ -1,20 +1,12 @@
 #include "engine/Complex.h"
 
-#include <array>
-#include <charconv>
+#include "engine/ShortNumber.h"
+
 #include <cmath>
 
 namespace velmora {
 
 namespace {
-
-/// The shorter of fixed and exponent notation with six significant digits, whatever the locale.
-std::string generalText(double x) {
-    std::array<char, 32> buffer; // longest: "-1.23457e-308"
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), x, std::chars_format::general, 6);
-    return {buffer.data(), end.ptr};
-}
 
 std::string imaginaryText(double im, double tolerance) {
     if (std::fabs(im) < tolerance) {
@@ -26,7 +18,7 @@ std::string imaginaryText(double im, double tolerance) {
     if (std::fabs(im + 1) < tolerance) {
         return "-i";
     }
-    return (im > 0 ? "+" : "") + generalText(im) + "i"; // a NaN brings its own sign, as a negative part does
+    return (im > 0 ? "+" : "") + shortNumber(im) + "i"; // a NaN brings its own sign, as a negative part does
 }
 
 double withoutNegligible(double part) { return std::fabs(part) < kComplexDisplayTolerance ? 0 : part; }
@@ -51,7 +43,7 @@ std::string Complex::roundedDescription() const {
 std::string Complex::descriptionWithParts(double re, double im, double tolerance) {
     std::string imaginary = imaginaryText(im, tolerance);
     if (std::fabs(re) >= tolerance || std::isnan(re)) {
-        return generalText(re) + imaginary;
+        return shortNumber(re) + imaginary;
     }
     if (imaginary.empty()) {
         return "0";

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/ComplexValue.h"
+#include "engine/MinMaxReturn.h"
 #include "engine/TokenElement.h"
 
 #include <cstdint>
@@ -54,6 +55,26 @@ public:
     ComplexValue valueWithVariableValues(ComplexValue x, ComplexValue y) const;
     /// The real part of the value where that is almost real, else NaN.
     double roundedRealValueWithVariableValue(ComplexValue z) const;
+
+    // Numeric analysis of the expression as a function f of its variable, by the rounded real values. All
+    // searches are local and end by themselves.
+
+    /// A root in [a, b]; nothing where f does not change its sign.
+    std::optional<double> zero(double a, double b) const;
+    /// An abscissa in [a, b] where both expressions are equal, found by halving until the doubles between
+    /// the ends are used up; nothing where their difference does not change its sign.
+    std::optional<double> intersectionWithExpression(const Expression& other, double a, double b) const;
+    /// How three neighbouring values lie: 0 flat, 1 a minimum in the middle, 2 a maximum, 3 rising,
+    /// 4 falling, 5 undetermined (one is NaN).
+    static int classifyMinMax(double left, double middle, double right);
+    /// The local extremum nearest to x0 in [lo, hi] whose value lies in [yMin, yMax], searched outward in
+    /// steps of h > 0; nothing where there is none, or a value on the way is NaN.
+    std::optional<MinMaxReturn> findMinMax(double lo, double hi, double yMin, double yMax, double x0,
+                                           double h) const;
+    /// Narrows a, b, c (in either order) around a minimum or maximum near b until nothing lies between
+    /// them. Nothing when it leaves [yMin, yMax], meets a NaN, or there is none.
+    std::optional<MinMaxReturn> investigateReversal(double a, double b, double c, double yMin, double yMax,
+                                                    bool isMin) const;
 
     /// The text shown as a result: the value, "Undefined", or the error.
     std::string formattedValueOrErrorDescription() const;

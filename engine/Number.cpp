@@ -2,11 +2,11 @@
 
 #include "engine/DescriptionWriter.h"
 #include "engine/NumberDisplay.h"
+#include "engine/ShortNumber.h"
 #include "platform/KeyedArchive.h"
 #include "platform/Utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <limits>
 #include <numbers>
@@ -91,12 +91,7 @@ std::string Number::toDisplayString() const {
     return "(" + text + ")";
 }
 
-void Number::describe(DescriptionWriter& writer) const {
-    std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number().real(),
-                                   std::chars_format::general, 6);
-    writer << std::string_view(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
-}
+void Number::describe(DescriptionWriter& writer) const { writer << shortNumber(number().real()); }
 
 void Number::encodeWithCoder(KeyedArchiver& coder) const {
     coder.encode("NumberDouble", number().real());

@@ -15,6 +15,9 @@ namespace velmora {
 /// The type under which an item holds plain text.
 inline constexpr std::string_view kPlainTextType = "public.text";
 
+/// The type under which an item holds a picture, as a PNG file's bytes.
+inline constexpr std::string_view kPngType = "public.png";
+
 /// One thing copied, in one or more representations by type: text or bytes.
 using PasteboardRepresentation = std::variant<std::string, PropertyData>;
 using PasteboardItem = std::map<std::string, PasteboardRepresentation, std::less<>>;

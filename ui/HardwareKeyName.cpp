@@ -22,6 +22,8 @@ constexpr std::array kNamedKeys{
     NamedKey{Qt::Key_Escape, "Escape"},
     NamedKey{Qt::Key_Left, "Left"},
     NamedKey{Qt::Key_Right, "Right"},
+    NamedKey{Qt::Key_Up, "Up"},
+    NamedKey{Qt::Key_Down, "Down"},
     NamedKey{Qt::Key_Home, "Home"},
     NamedKey{Qt::Key_End, "End"},
 };

@@ -13,7 +13,13 @@ namespace {
 // A text under a type of ours must come back as text, not as bytes.
 constexpr const char* kTextSuffix = ";charset=utf-8";
 
+// A picture is exchanged with other programs.
+constexpr const char* kPngMimeName = "image/png";
+
 QString mimeName(std::string_view type, bool isText) {
+    if (type == kPngType) {
+        return QLatin1String(kPngMimeName);
+    }
     QString name = QStringLiteral("application/x-") + QString::fromUtf8(type.data(), qsizetype(type.size()));
     return isText ? name + QLatin1String(kTextSuffix) : name;
 }
@@ -50,6 +56,9 @@ std::vector<PasteboardItem> QtPasteboard::items() const {
     }
     if (data->hasText()) {
         item.emplace(kPlainTextType, data->text().toStdString());
+    }
+    if (data->hasFormat(QLatin1String(kPngMimeName))) {
+        item.emplace(kPngType, toPropertyData(data->data(QLatin1String(kPngMimeName))));
     }
     const QString prefix = mimeName({}, false);
     const QLatin1String textSuffix(kTextSuffix);

@@ -5,12 +5,14 @@
 #include "calculator/KeyboardViewController.h"
 #include "calculator/PageViewController.h"
 #include "graphing/GenericEquationsViewController.h"
+#include "graphing/GraphViewController.h"
 #include "platform/Log.h"
 #include "toolkit/OrvPickTableViewController.h"
 #include "toolkit/OrvSettingsTableViewController.h"
 #include "ui/ConstantEditAdapter.h"
 #include "ui/EquationsAdapter.h"
 #include "ui/FunctionSelectAdapter.h"
+#include "ui/GraphAdapter.h"
 #include "ui/KeyboardScreenAdapter.h"
 #include "ui/PageAdapter.h"
 #include "ui/PickTableAdapter.h"
@@ -35,6 +37,7 @@ constexpr std::unique_ptr<QObject> (*kMakers[])(const ControllerPointer&, SceneA
     make<ConstantEditViewController, ConstantEditAdapter>,
     make<PageViewController, PageAdapter>,
     make<GenericEquationsViewController, EquationsAdapter>,
+    make<GraphViewController, GraphAdapter>,
     make<OrvSettingsTableViewController, SettingsTableAdapter>,
     make<OrvPickTableViewController, PickTableAdapter>,
 };

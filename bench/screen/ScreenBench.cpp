@@ -1,66 +1,16 @@
 // The real scene with fifty rows of history, worked by events: what each step costs until its frame stands.
 
+#include "bench/screen/StepMeasure.h"
 #include "ui/Application.h"
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPointingDevice>
 #include <QQuickItem>
 #include <QTest>
 
-#include <algorithm>
 #include <cstdio>
-#include <ctime>
-#include <functional>
-#include <vector>
 
 namespace {
-
-constexpr int kSteps = 300;
-constexpr double kFrameMilliseconds = 16;
-
-/// The time that the processor has worked for the program. The wait for the next frame is none of it, and
-/// neither is what other programs do meanwhile.
-double processorMilliseconds() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
-class ScreenBench {
-public:
-    explicit ScreenBench(QQuickView& window) : m_window(window) {
-        QObject::connect(&window, &QQuickWindow::frameSwapped, &window, [this] { ++m_frames; });
-    }
-
-    /// Runs the steps and prints what they cost. False when the 95th of a hundred takes longer than a frame,
-    /// or when a step was not painted.
-    bool measure(const char* name, const std::function<void(int)>& step) {
-        std::vector<double> costs;
-        int unpainted = 0;
-        for (int i = 0; i < kSteps; ++i) {
-            const int before = m_frames;
-            const double start = processorMilliseconds();
-            step(i);
-            if (!QTest::qWaitFor([&] { return m_frames > before; }, kPatienceMilliseconds)) {
-                ++unpainted;
-            }
-            costs.push_back(processorMilliseconds() - start);
-        }
-        std::ranges::sort(costs);
-        const auto percentile = [&](int percent) { return costs[costs.size() * std::size_t(percent) / 100]; };
-        std::printf(
-            "%-10s %d steps, %d unpainted: median %.2f ms, 95th percentile %.2f ms, longest %.2f ms\n", name,
-            kSteps, unpainted, percentile(50), percentile(95), costs.back());
-        return unpainted == 0 && percentile(95) < kFrameMilliseconds;
-    }
-
-private:
-    static constexpr int kPatienceMilliseconds = 500;
-
-    QQuickView& m_window;
-    int m_frames = 0;
-};
 
 void typeText(QQuickView& window, const QString& text) {
     for (const QChar character : text) {
@@ -87,7 +37,7 @@ int main(int argc, char** argv) {
     std::printf("%d by %d pixels\n", int(window.width() * window.devicePixelRatio()),
                 int(window.height() * window.devicePixelRatio()));
 
-    ScreenBench bench(window);
+    velmora::StepMeasure bench(window);
     QPointingDevice* finger = QTest::createTouchDevice();
     // The digits, the point and the parenthesis: three columns from the second on, four rows.
     const auto pointOfKey = [&](int step) {

@@ -12,7 +12,7 @@ function startFile(parts, count) {
     isTool = parts[1] == "bench" || parts[1] == "fuzz"
     layer = isTest ? parts[2] : parts[1]
     # The start of the program is measured against a bare Qt Quick window.
-    knowsQt = layer == "ui" || FILENAME ~ /^bench\/(start|screen)\//
+    knowsQt = layer == "ui" || FILENAME ~ /^bench\/(start|screen|graph)\//
     inComment = 0
     if (isTest && count < 3) {
         layer = "" # helpers for the tests of every layer

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace velmora {
+
+/// A number in six significant digits without trailing zeroes, with an exponent where that is shorter
+/// ("0.5", "250000", "1e+06"); the same in every locale.
+std::string shortNumber(double number);
+
+} // namespace velmora

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QImage>
+#include <QQuickItem>
+
+class QPainter;
+
+namespace velmora {
+
+/// An item that is painted in the pixels of the device, however the scene is scaled, so that lines are
+/// sharp. (Qt's own painted item paints before the scene's scale and is blurred by it.)
+class DevicePixelItem : public QQuickItem {
+    Q_OBJECT
+
+public:
+    explicit DevicePixelItem(QQuickItem* parent = nullptr);
+
+    /// Has the item painted anew before the next frame.
+    void repaint();
+    /// What is on display, in pixels of the device.
+    const QImage& picture() const { return m_picture; }
+
+protected:
+    /// Paints the whole item. The painter's unit is the scene's point.
+    virtual void paint(QPainter& painter) = 0;
+
+    void updatePolish() override;
+    QSGNode* updatePaintNode(QSGNode* former, UpdatePaintNodeData* data) override;
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
+private:
+    double pixelsPerPoint() const;
+
+    QImage m_picture;
+    double m_pixelsPerPoint = 1;
+};
+
+} // namespace velmora

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "graphing/GraphViewController.h"
+#include "platform/Subscription.h"
+#include "platform/TapCounter.h"
+#include "ui/DevicePixelItem.h"
+#include "ui/GraphAdapter.h"
+
+#include <QPointer>
+
+namespace velmora {
+
+/// Paints the graph with its labels, and hands fingers, mouse and wheel to its controller.
+class GraphItem : public DevicePixelItem, public GraphPicture {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(velmora::GraphAdapter* screen READ screen WRITE setScreen REQUIRED)
+
+public:
+    explicit GraphItem(QQuickItem* parent = nullptr);
+    ~GraphItem() override;
+
+    GraphAdapter* screen() const { return m_screen; }
+    void setScreen(GraphAdapter* screen);
+
+    std::vector<std::uint8_t> png() const override;
+    std::optional<std::string> savePng() const override;
+
+protected:
+    void paint(QPainter& painter) override;
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    void touchEvent(QTouchEvent* event) override;
+    void touchUngrabEvent() override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    GraphViewController* controller() const;
+
+    QPointer<GraphAdapter> m_screen;
+    std::shared_ptr<GraphViewController> m_controller;
+    Subscription m_redraws;
+    TapCounter m_taps;
+};
+
+} // namespace velmora
