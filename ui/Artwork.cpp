@@ -83,6 +83,35 @@ void drawRoot(const Canvas& canvas) {
     canvas.painter.drawPath(radicand);
 }
 
+/// Thin round lines in the unit square, for outlines.
+QPainter& useLinePen(const Canvas& canvas) {
+    useUnitSquare(canvas);
+    canvas.painter.setPen(QPen(Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    canvas.painter.setBrush(Qt::NoBrush);
+    return canvas.painter;
+}
+
+void drawPlus(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    painter.drawLine(QPointF(12, 6), QPointF(12, 18));
+    painter.drawLine(QPointF(6, 12), QPointF(18, 12));
+}
+
+void drawMinus(const Canvas& canvas) { useLinePen(canvas).drawLine(QPointF(6, 12), QPointF(18, 12)); }
+
+void drawTimes(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    painter.drawLine(QPointF(12, 6.8), QPointF(12, 17.2));
+    painter.drawLine(QPointF(7.5, 9.4), QPointF(16.5, 14.6));
+    painter.drawLine(QPointF(7.5, 14.6), QPointF(16.5, 9.4));
+}
+
+void drawSlash(const Canvas& canvas) { useLinePen(canvas).drawLine(QPointF(15, 5), QPointF(9, 19)); }
+
+void drawCaret(const Canvas& canvas) {
+    useLinePen(canvas).drawPolyline(QPolygonF({QPointF(7, 14.5), QPointF(12, 8.5), QPointF(17, 14.5)}));
+}
+
 void drawCalculator(const Canvas& canvas) {
     useUnitSquare(canvas);
     QPainter& painter = canvas.painter;
@@ -97,14 +126,6 @@ void drawCalculator(const Canvas& canvas) {
             painter.drawEllipse(QPointF(x, y), 1.05, 1.05);
         }
     }
-}
-
-/// Thin round lines in the unit square, for outlines.
-QPainter& useLinePen(const Canvas& canvas) {
-    useUnitSquare(canvas);
-    canvas.painter.setPen(QPen(Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    canvas.painter.setBrush(Qt::NoBrush);
-    return canvas.painter;
 }
 
 void drawCentred(QPainter& painter, const QRectF& area, const QString& text, int size, bool italic) {
@@ -181,6 +202,11 @@ struct Drawing {
 const std::array kDrawings{
     Drawing{QLatin1String("panel"), drawPanel},
     Drawing{QLatin1String("root"), drawRoot},
+    Drawing{QLatin1String("plus"), drawPlus},
+    Drawing{QLatin1String("minus"), drawMinus},
+    Drawing{QLatin1String("times"), drawTimes},
+    Drawing{QLatin1String("slash"), drawSlash},
+    Drawing{QLatin1String("caret"), drawCaret},
     Drawing{QLatin1String("calculator.png"), drawCalculator},
     Drawing{QLatin1String("equation.png"), drawEquation},
     Drawing{QLatin1String("graph.png"), drawGraph},

@@ -30,6 +30,7 @@ public:
     void scrollHistoryToEnd(bool animated) override { animated ? ++animatedScrolls : ++scrolls; }
     void showEntry() override { ++entries; }
     void showEqualsKey() override {}
+    void showChosenSign() override {}
     void keysChanged() override { ++keyChanges; }
     void layoutChanged() override { ++layouts; }
     void showEditMenu(bool shown) override { menuShown = shown; }

@@ -26,7 +26,7 @@ TEST_F(EditingModesTest, entryLineNamesTheEquation) {
         {3, &model().polarR(), 0, "r1(θ)=7"},
         {1, &model().constants(), 0, "k1=7"},
         {5, &model().impliedFunctions(), 2, "7= 0"},
-        {4, nullptr, 0, "7<0"},
+        {4, nullptr, 0, "7"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.entry);
@@ -114,7 +114,9 @@ TEST_F(EditingModesTest, inequalities) {
     open(4, nullptr, 2);
     key("x π")->pressed();
     press("+ y ≥");
-    EXPECT_EQ(entry(), "x+y≥0");
+    EXPECT_EQ(entry(), "x+y"); // the sign in force is lit on its key
+    EXPECT_TRUE(key("≥")->appearance().chosen);
+    EXPECT_FALSE(key("<")->appearance().chosen);
     press("=");
     EXPECT_FALSE(isOpen());
     const InequalityTokens& stored = model().inequalityArray()[2];

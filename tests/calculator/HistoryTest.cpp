@@ -1,7 +1,5 @@
 #include "tests/calculator/CalculatorFixture.h"
 
-#include "platform/NotificationCentre.h"
-
 namespace velmora::test {
 namespace {
 
@@ -78,9 +76,6 @@ TEST_F(HistoryTest, otherTablesAreNotHeard) {
     const DisplayHistoryTableViewController another;
     another.historyCell(1, 320).buttonPressed(true);
     EXPECT_EQ(entry(), "");
-    NotificationCentre::defaultCentre().post(kCalculatorKeyboardButtonPressedNotification,
-                                             keyboard->displayTableViewController(), {{"row", 1}});
-    EXPECT_EQ(entry(), ""); // not told which side
 }
 
 TEST_F(HistoryTest, rowLayout) {
