@@ -82,7 +82,7 @@ void KeyboardViewController::numberEntered(ComplexValue value) {
 void KeyboardViewController::displayTableViewButtonPressed(const Notification& notification) {
     const KeyedUnarchiver info(notification.userInfo);
     const auto row = info.integer("row");
-    if (!row) {
+    if (!row || !finishTypedName()) {
         return;
     }
     endPressCounts();

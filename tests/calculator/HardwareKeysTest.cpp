@@ -126,6 +126,9 @@ TEST_F(HardwareKeysTest, lettersStandAtTheCursorAndAreEditedLikeKeys) {
     type("c o");
     press("del clr");
     EXPECT_EQ(entry(), "");
+    type("e"); // may begin "erf(", until a row is tapped
+    keyboard->displayTableViewController()->historyCell(1, 320).buttonPressed(true);
+    EXPECT_EQ(entry(), "e4");
 }
 
 TEST_F(HardwareKeysTest, tapMovesTheCursorToTheNearestGap) {
