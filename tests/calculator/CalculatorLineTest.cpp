@@ -23,8 +23,7 @@ TEST_F(CalculatorLineTest, keysEditTheLine) {
         {"2 e", "2e"},           {"2 e e", "2E"},
         {"2 e e e", "2Ee"},                           // the titles wrap without taking anything back
         {"2 e e e e", "2EE"},    {"2 e 3 e", "2e3e"}, // another key in between starts anew
-        {"2 e ← e", "2e_e"},
-    };
+        {"2 e ← e", "2e_e"}};
     for (const EntryCase& c : cases) {
         SCOPED_TRACE(c.keys);
         Model::resetForTests();
@@ -55,14 +54,12 @@ TEST_F(CalculatorLineTest, tallKeyFace) {
         const char* title;
         const char* image;
         const char* spoken;
-    } cases[] = {
-        {"", "=)", "buttonc", "equals"},
-        {"1", "=", "buttonc", "equals"},
-        {"( 2 + 3", ")", "buttonBTall", "right parenthesis"},
-        {"( 2 + 3 =", "=", "buttonc", "equals"},
-        {"sqrt ( 2 =", ")", "buttonBTall", "right parenthesis"},
-        {"( clr", "=)", "buttonc", "equals"},
-    };
+    } cases[] = {{"", "=)", "buttonc", "equals"},
+                 {"1", "=", "buttonc", "equals"},
+                 {"( 2 + 3", ")", "buttonBTall", "right parenthesis"},
+                 {"( 2 + 3 =", "=", "buttonc", "equals"},
+                 {"sqrt ( 2 =", ")", "buttonBTall", "right parenthesis"},
+                 {"( clr", "=)", "buttonc", "equals"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.keys);
         open();
@@ -97,10 +94,11 @@ TEST_F(CalculatorLineTest, threeClearsInARowEraseTheHistory) {
         const char* keys;
         std::size_t rows;
         int nClears;
-    } cases[] = {
-        {"clr clr", 1, 2},           {"clr clr clr", 0, 0},   {"clr 5 clr clr", 1, 2},
-        {"clr clr ← clr clr", 1, 2}, {"clr clr = clr", 1, 1},
-    };
+    } cases[] = {{"clr clr", 1, 2},
+                 {"clr clr clr", 0, 0},
+                 {"clr 5 clr clr", 1, 2},
+                 {"clr clr ← clr clr", 1, 2},
+                 {"clr clr = clr", 1, 1}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.keys);
         Model::resetForTests();
@@ -117,18 +115,16 @@ TEST_F(CalculatorLineTest, otherChangesEndPressAndClearCounts) {
     const struct {
         const char* what;
         void (*change)(KeyboardViewController&);
-    } changes[] = {
-        {"row tapped",
-         [](KeyboardViewController& k) {
-             k.displayTableViewController()->historyCell(1, 320).buttonPressed(true);
-         }},
-        {"choice from a list", [](KeyboardViewController& k) { k.functionSelected("sin("); }},
-        {"number entered", [](KeyboardViewController& k) { k.numberEntered(2.0); }},
-        {"cursor tap", [](KeyboardViewController& k) { k.cursorTappedAt(9); }},
-        {"hardware key", [](KeyboardViewController& k) { k.hardwareKey("7"); }},
-        {"hardware cursor", [](KeyboardViewController& k) { k.hardwareKey("Home"); }},
-        {"cut", [](KeyboardViewController& k) { k.keyboardView().currentEntryLabel().cut(); }},
-    };
+    } changes[] = {{"row tapped",
+                    [](KeyboardViewController& k) {
+                        k.displayTableViewController()->historyCell(1, 320).buttonPressed(true);
+                    }},
+                   {"choice from a list", [](KeyboardViewController& k) { k.functionSelected("sin("); }},
+                   {"number entered", [](KeyboardViewController& k) { k.numberEntered(2.0); }},
+                   {"cursor tap", [](KeyboardViewController& k) { k.cursorTappedAt(9); }},
+                   {"hardware key", [](KeyboardViewController& k) { k.hardwareKey("7"); }},
+                   {"hardware cursor", [](KeyboardViewController& k) { k.hardwareKey("Home"); }},
+                   {"cut", [](KeyboardViewController& k) { k.keyboardView().currentEntryLabel().cut(); }}};
     for (const auto& c : changes) {
         SCOPED_TRACE(c.what);
         Model::resetForTests();

@@ -19,15 +19,13 @@ TEST_F(EditingModesTest, entryLineNamesTheEquation) {
         ExpressionList* target;
         int slot;
         const char* entry;
-    } cases[] = {
-        {1, &model().equations(), 0, "y1(x)=7"},
-        {1, &model().polarR(), 1, "r2(θ)=7"},
-        {2, &model().parametricX(), 3, "x4(t)=7"},
-        {3, &model().polarR(), 0, "r1(θ)=7"},
-        {1, &model().constants(), 0, "k1=7"},
-        {5, &model().impliedFunctions(), 2, "7= 0"},
-        {4, nullptr, 0, "7"},
-    };
+    } cases[] = {{1, &model().equations(), 0, "y1(x)=7"},
+                 {1, &model().polarR(), 1, "r2(θ)=7"},
+                 {2, &model().parametricX(), 3, "x4(t)=7"},
+                 {3, &model().polarR(), 0, "r1(θ)=7"},
+                 {1, &model().constants(), 0, "k1=7"},
+                 {5, &model().impliedFunctions(), 2, "7= 0"},
+                 {4, nullptr, 0, "7"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.entry);
         open(c.entering, c.target, c.slot);
@@ -135,12 +133,10 @@ TEST(InequalityTokensTest, checkedUntilTheNextChange) {
     const struct {
         const char* what;
         void (*change)(InequalityTokens&);
-    } changes[] = {
-        {"insert", [](InequalityTokens& i) { i.insertToken(Token("1")); }},
-        {"delete", [](InequalityTokens& i) { i.deleteAtCursor(); }},
-        {"reset", [](InequalityTokens& i) { i.reset(); }},
-        {"sign", [](InequalityTokens& i) { i.setInequalityTypeWithToken(Token(">")); }},
-    };
+    } changes[] = {{"insert", [](InequalityTokens& i) { i.insertToken(Token("1")); }},
+                   {"delete", [](InequalityTokens& i) { i.deleteAtCursor(); }},
+                   {"reset", [](InequalityTokens& i) { i.reset(); }},
+                   {"sign", [](InequalityTokens& i) { i.setInequalityTypeWithToken(Token(">")); }}};
     for (const auto& c : changes) {
         SCOPED_TRACE(c.what);
         InequalityTokens inequality(tokens("x + y"));

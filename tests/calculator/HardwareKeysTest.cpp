@@ -11,21 +11,19 @@ TEST_F(HardwareKeysTest, keysEditTheLineLikeThoseOnScreen) {
     const struct {
         const char* keys;
         const char* entry;
-    } cases[] = {
-        {"1 2 + 3 Backspace 4", "12+4"},
-        {"+ 1", "ans+1"},
-        {"( 2 )", "(2)"},
-        {"1 ) ,", "1),"},
-        {"( 2 = + 1", "(2)+1"}, // "=" is the tall key
-        {"2 × 3 ÷ 4 − 1", "2*3/4-1"},
-        {"e e", "ee"}, // typed letters never turn into another title
-        {"2 E 3", "2E3"},
-        {"p i π i 2", "ππi2"},
-        {"1 2 3 Home 4", "4_123"},
-        {"1 2 3 Home Delete End 4", "234"},
-        {"1 2 Left Right Right 3 Delete", "123"},
-        {"5 Escape", ""},
-    };
+    } cases[] = {{"1 2 + 3 Backspace 4", "12+4"},
+                 {"+ 1", "ans+1"},
+                 {"( 2 )", "(2)"},
+                 {"1 ) ,", "1),"},
+                 {"( 2 = + 1", "(2)+1"}, // "=" is the tall key
+                 {"2 × 3 ÷ 4 − 1", "2*3/4-1"},
+                 {"e e", "ee"}, // typed letters never turn into another title
+                 {"2 E 3", "2E3"},
+                 {"p i π i 2", "ππi2"},
+                 {"1 2 3 Home 4", "4_123"},
+                 {"1 2 3 Home Delete End 4", "234"},
+                 {"1 2 Left Right Right 3 Delete", "123"},
+                 {"5 Escape", ""}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.keys);
         open();
@@ -86,8 +84,7 @@ TEST_F(HardwareKeysTest, lettersBecomeTheNamesTheySpell) {
         {0, "2E-3", "2 E - 3", "", ""},
         {0, "lo+g(7", "log( 7", "", "“lo” is only the start of log(, logbase("},
         {0, "2qé", "2", "", "begins with “é”"},
-        {0, "sinq(", "sin(", "", "begins with “sinq”"},
-    };
+        {0, "sinq(", "sin(", "", "begins with “sinq”"}};
     for (const TypedCase& c : cases) {
         SCOPED_TRACE(c.typed);
         screen.notice.clear();
@@ -139,9 +136,7 @@ TEST_F(HardwareKeysTest, tapMovesTheCursorToTheNearestGap) {
     const struct {
         double x;
         const char* entry;
-    } cases[] = {
-        {309, "sin(12"}, {301, "sin(1_2"}, {280, "sin(_12"}, {200, "_sin(12"}, {262, "_sin(12"},
-    };
+    } cases[] = {{309, "sin(12"}, {301, "sin(1_2"}, {280, "sin(_12"}, {200, "_sin(12"}, {262, "_sin(12"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.x);
         keyboard->cursorTappedAt(99);

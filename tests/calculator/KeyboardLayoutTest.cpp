@@ -64,14 +64,12 @@ TEST_F(KeyboardLayoutTest, keyOfPiCarriesTheVariable) {
         int entering;
         ExpressionList* target;
         const char* title;
-    } cases[] = {
-        {0, nullptr, "π"},
-        {1, &model.equations(), "x π"},
-        {1, &model.polarR(), "θ π"},
-        {1, &model.constants(), "π"},
-        {2, &model.parametricX(), "t π"},
-        {3, &model.polarR(), "π"},
-    };
+    } cases[] = {{0, nullptr, "π"},
+                 {1, &model.equations(), "x π"},
+                 {1, &model.polarR(), "θ π"},
+                 {1, &model.constants(), "π"},
+                 {2, &model.parametricX(), "t π"},
+                 {3, &model.polarR(), "π"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.title);
         open(c.entering, c.target);

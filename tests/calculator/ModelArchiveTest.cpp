@@ -173,8 +173,7 @@ TEST_F(ModelArchive, readsDefaultsForWhatIsAbsentOrUnusable) {
         {"too many activations",
          {{"nHasBecomeActiveKey", std::int64_t{1} << 40}},
          "nHasBecomeActive",
-         std::numeric_limits<int>::max()},
-    };
+         std::numeric_limits<int>::max()}};
     PlainDevice tablet(DeviceClass::Tablet);
     const DeviceScope scope(tablet);
     for (const Row& row : rows) {

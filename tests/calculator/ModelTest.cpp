@@ -17,39 +17,37 @@ namespace {
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST_F(ModelTest, firstStart) {
-    const std::map<std::string, PropertyList> defaults{
-        {"maxDigitsForDecimalNotation", 9},
-        {"displayDigits", 5},
-        {"trailingZeroes", false},
-        {"commasInNumbers", false},
-        {"soundIsOn", false},
-        {"soundVolume", 0.3},
-        {"angleMode", 0},
-        {"roundSmallPartsOfComplexNumbers", true},
-        {"iOnMainKeyboard", false},
-        {"whichKeyboard", 0},
-        {"largeFontsOnPhone", false},
-        {"displayMode", 4},
-        {"orientationMode", 0},
-        {"xMinForGraph", -10.0},
-        {"xMaxForGraph", 10.062695924764892},
-        {"yMinForGraph", -10.0},
-        {"yMaxForGraph", 10.0},
-        {"tStartForParametricGraph", 0.0},
-        {"tEndForParametricGraph", 1.0},
-        {"thetaStartForPolarGraph", 0.0},
-        {"thetaEndForPolarGraph", 2 * std::acos(-1.0)},
-        {"graphType", 0},
-        {"graphGridLineType", 0},
-        {"graphBackgroundIsBlack", false},
-        {"putLabelsOnGraph", true},
-        {"shakeToResetGraph", true},
-        {"sameScaleXAndY", false},
-        {"unitConverterIsPushed", false},
-        {"settingsHaveBeenAccessed", false},
-        {"nHasBecomeActive", 0},
-        {"pickerSelectedUnitIndex", 0},
-    };
+    const std::map<std::string, PropertyList> defaults{{"maxDigitsForDecimalNotation", 9},
+                                                       {"displayDigits", 5},
+                                                       {"trailingZeroes", false},
+                                                       {"commasInNumbers", false},
+                                                       {"soundIsOn", false},
+                                                       {"soundVolume", 0.3},
+                                                       {"angleMode", 0},
+                                                       {"roundSmallPartsOfComplexNumbers", true},
+                                                       {"iOnMainKeyboard", false},
+                                                       {"whichKeyboard", 0},
+                                                       {"largeFontsOnPhone", false},
+                                                       {"displayMode", 4},
+                                                       {"orientationMode", 0},
+                                                       {"xMinForGraph", -10.0},
+                                                       {"xMaxForGraph", 10.062695924764892},
+                                                       {"yMinForGraph", -10.0},
+                                                       {"yMaxForGraph", 10.0},
+                                                       {"tStartForParametricGraph", 0.0},
+                                                       {"tEndForParametricGraph", 1.0},
+                                                       {"thetaStartForPolarGraph", 0.0},
+                                                       {"thetaEndForPolarGraph", 2 * std::acos(-1.0)},
+                                                       {"graphType", 0},
+                                                       {"graphGridLineType", 0},
+                                                       {"graphBackgroundIsBlack", false},
+                                                       {"putLabelsOnGraph", true},
+                                                       {"shakeToResetGraph", true},
+                                                       {"sameScaleXAndY", false},
+                                                       {"unitConverterIsPushed", false},
+                                                       {"settingsHaveBeenAccessed", false},
+                                                       {"nHasBecomeActive", 0},
+                                                       {"pickerSelectedUnitIndex", 0}};
     EXPECT_EQ(modelProperties().size(), defaults.size());
     for (const auto& [key, value] : defaults) {
         SCOPED_TRACE(key);
@@ -66,11 +64,9 @@ TEST_F(ModelTest, lists) {
         int entries;
         int capacity;
         const char* lastName;
-    } cases[] = {
-        {model.equations(), 4, 4, "y4(x)"},           {model.parametricX(), 4, 4, "x4(t)"},
-        {model.parametricY(), 4, 4, "y4(t)"},         {model.polarR(), 4, 4, "r4(θ)"},
-        {model.impliedFunctions(), 4, 4, "f4(x, y)"}, {model.constants(), 50, 50, "k50"},
-    };
+    } cases[] = {{model.equations(), 4, 4, "y4(x)"},           {model.parametricX(), 4, 4, "x4(t)"},
+                 {model.parametricY(), 4, 4, "y4(t)"},         {model.polarR(), 4, 4, "r4(θ)"},
+                 {model.impliedFunctions(), 4, 4, "f4(x, y)"}, {model.constants(), 50, 50, "k50"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.lastName);
         EXPECT_EQ(c.list.nExpressions(), c.entries);
@@ -125,10 +121,8 @@ TEST_F(ModelTest, maximumIsRepairedWhenRead) {
     Model& model = Model::m();
     const struct {
         double minimum, maximum, read;
-    } cases[] = {
-        {-1, 1, 1},      {3, -2, 3 + 1e-9}, {5, 5, 5 + 1e-9},
-        {0, 1e-9, 1e-9}, {0, 0.5e-9, 1e-9}, {1e300, 0, 1e300},
-    };
+    } cases[] = {{-1, 1, 1},      {3, -2, 3 + 1e-9}, {5, 5, 5 + 1e-9},
+                 {0, 1e-9, 1e-9}, {0, 0.5e-9, 1e-9}, {1e300, 0, 1e300}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.maximum);
         model.setXMinForGraph(c.minimum);
@@ -161,17 +155,15 @@ TEST_F(ModelTest, geometryFollowsDeviceAndSettings) {
         int displayMode;
         int geometry;
         int fontSizeMode;
-    } cases[] = {
-        {DeviceClass::Phone, Portrait, false, 0, 4, 4, 0},
-        {DeviceClass::Phone, LandscapeLeft, true, 2, 4, 3, 1},
-        {DeviceClass::Tablet, Portrait, true, 0, 0, 0, 2},
-        {DeviceClass::Tablet, PortraitUpsideDown, false, 1, 1, 1, 3},
-        {DeviceClass::Tablet, Portrait, false, 2, 2, 0, 2},
-        {DeviceClass::Tablet, Portrait, false, 3, 3, 1, 3},
-        {DeviceClass::Tablet, Portrait, false, 4, 1, 1, 3},
-        {DeviceClass::Tablet, LandscapeLeft, false, 0, 0, 2, 3},
-        {DeviceClass::Tablet, LandscapeRight, false, 1, 1, 2, 3},
-    };
+    } cases[] = {{DeviceClass::Phone, Portrait, false, 0, 4, 4, 0},
+                 {DeviceClass::Phone, LandscapeLeft, true, 2, 4, 3, 1},
+                 {DeviceClass::Tablet, Portrait, true, 0, 0, 0, 2},
+                 {DeviceClass::Tablet, PortraitUpsideDown, false, 1, 1, 1, 3},
+                 {DeviceClass::Tablet, Portrait, false, 2, 2, 0, 2},
+                 {DeviceClass::Tablet, Portrait, false, 3, 3, 1, 3},
+                 {DeviceClass::Tablet, Portrait, false, 4, 1, 1, 3},
+                 {DeviceClass::Tablet, LandscapeLeft, false, 0, 0, 2, 3},
+                 {DeviceClass::Tablet, LandscapeRight, false, 1, 1, 2, 3}};
     for (const auto& c : cases) {
         device = PlainDevice(c.deviceClass, c.orientation);
         Model::m().setLargeFontsOnPhone(c.largeFonts);

@@ -40,13 +40,11 @@ TEST_F(OpenedScreensTest, listsAreToldWhatToShow) {
         const char* key;
         const char* list;
         bool variableIsDefined;
-    } cases[] = {
-        {0, nullptr, "func", "Functions", false},
-        {0, nullptr, "cnst", "Constants", false},
-        {0, nullptr, "trig", "TrigFunctions", false},
-        {1, &model.equations(), "func", "Functions", true},
-        {1, &model.constants(), "func", "Functions", false},
-    };
+    } cases[] = {{0, nullptr, "func", "Functions", false},
+                 {0, nullptr, "cnst", "Constants", false},
+                 {0, nullptr, "trig", "TrigFunctions", false},
+                 {1, &model.equations(), "func", "Functions", true},
+                 {1, &model.constants(), "func", "Functions", false}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.list);
         open(c.entering, c.target);
