@@ -20,18 +20,16 @@ TEST_F(OpenedScreensTest, unregisteredScreensDoNothingButLog) {
     open();
     press("1");
     for (const char* title : {"func", "cnst", "trig", "units"}) {
-        SCOPED_TRACE(title);
         logged.clear();
         press(title);
-        EXPECT_EQ(stack->topViewController(), keyboard);
-        EXPECT_TRUE(logHolds("ViewController"));
+        EXPECT_EQ(stack->topViewController(), keyboard) << title;
+        EXPECT_TRUE(logHolds("ViewController")) << title;
     }
     EXPECT_FALSE(Model::m().unitConverterIsPushed());
     EXPECT_EQ(entry(), "1");
 }
 
 TEST_F(OpenedScreensTest, listsAreToldWhatToShow) {
-    Model& model = Model::m();
     ScreenRegistry::shared().registerScreen("FunctionSelectViewController",
                                             [] { return std::make_shared<ListScreen>(); });
     const struct {
@@ -43,8 +41,8 @@ TEST_F(OpenedScreensTest, listsAreToldWhatToShow) {
     } cases[] = {{0, nullptr, "func", "Functions", false},
                  {0, nullptr, "cnst", "Constants", false},
                  {0, nullptr, "trig", "TrigFunctions", false},
-                 {1, &model.equations(), "func", "Functions", true},
-                 {1, &model.constants(), "func", "Functions", false}};
+                 {1, &Model::m().equations(), "func", "Functions", true},
+                 {1, &Model::m().constants(), "func", "Functions", false}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.list);
         open(c.entering, c.target);
@@ -71,20 +69,17 @@ TEST_F(OpenedScreensTest, choicesAreInserted) {
     EXPECT_EQ(entry(), "ans^");
 }
 
-TEST_F(OpenedScreensTest, unitConverterIsRememberedWhileOpen) {
+TEST_F(OpenedScreensTest, onlyTheCalculatorsUnitConverterIsRememberedWhileOpen) {
     ScreenRegistry::shared().registerScreen("UnitConvertViewController",
                                             [] { return std::make_shared<OtherScreen>(); });
-    open();
-    press("units");
-    EXPECT_EQ(stack->topViewController()->title(), "Units");
-    EXPECT_TRUE(Model::m().unitConverterIsPushed());
-    stack->pop();
-    EXPECT_FALSE(Model::m().unitConverterIsPushed());
-
-    open(1, &Model::m().equations());
-    press("units");
-    EXPECT_EQ(stack->topViewController()->title(), "Units");
-    EXPECT_FALSE(Model::m().unitConverterIsPushed()); // only the calculator's is opened again at a start
+    for (const int entering : {0, 1}) {
+        open(entering, entering == 1 ? &Model::m().equations() : nullptr);
+        press("units");
+        EXPECT_EQ(stack->topViewController()->title(), "Units");
+        EXPECT_EQ(Model::m().unitConverterIsPushed(), entering == 0);
+        stack->pop();
+        EXPECT_FALSE(Model::m().unitConverterIsPushed());
+    }
 }
 
 } // namespace
