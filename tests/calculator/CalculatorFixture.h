@@ -160,6 +160,15 @@ public:
         return rows;
     }
 
+    /// The history and the entry line, such as "1+1 = 2; ans+".
+    std::string shown() {
+        std::string text;
+        for (const std::string& row : history()) {
+            text += row + "; ";
+        }
+        return text + entry();
+    }
+
     RecordingScreen screen;
     std::shared_ptr<KeyboardViewController> keyboard;
     std::shared_ptr<NavigationController> stack;

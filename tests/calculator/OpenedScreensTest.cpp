@@ -1,18 +1,7 @@
 #include "tests/calculator/CalculatorFixture.h"
 
-#include "calculator/FunctionListScreen.h"
-
 namespace velmora::test {
 namespace {
-
-class ListScreen final : public OtherScreen, public FunctionListScreen {
-public:
-    void setFunctionListName(std::string listName) override { name = std::move(listName); }
-    void setVariableIsDefined(bool defined) override { variableIsDefined = defined; }
-
-    std::string name;
-    bool variableIsDefined = false;
-};
 
 using OpenedScreensTest = KeyboardTest;
 
@@ -27,31 +16,6 @@ TEST_F(OpenedScreensTest, unregisteredScreensDoNothingButLog) {
     }
     EXPECT_FALSE(Model::m().unitConverterIsPushed());
     EXPECT_EQ(entry(), "1");
-}
-
-TEST_F(OpenedScreensTest, listsAreToldWhatToShow) {
-    ScreenRegistry::shared().registerScreen("FunctionSelectViewController",
-                                            [] { return std::make_shared<ListScreen>(); });
-    const struct {
-        int entering;
-        ExpressionList* target;
-        const char* key;
-        const char* list;
-        bool variableIsDefined;
-    } cases[] = {{0, nullptr, "func", "Functions", false},
-                 {0, nullptr, "cnst", "Constants", false},
-                 {0, nullptr, "trig", "TrigFunctions", false},
-                 {1, &Model::m().equations(), "func", "Functions", true},
-                 {1, &Model::m().constants(), "func", "Functions", false}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.list);
-        open(c.entering, c.target);
-        press(c.key);
-        const auto list = std::dynamic_pointer_cast<ListScreen>(stack->topViewController());
-        ASSERT_TRUE(list);
-        EXPECT_EQ(list->name, c.list);
-        EXPECT_EQ(list->variableIsDefined, c.variableIsDefined);
-    }
 }
 
 TEST_F(OpenedScreensTest, choicesAreInserted) {

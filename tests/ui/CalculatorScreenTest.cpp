@@ -331,19 +331,15 @@ TEST(Window, resizingExchangesTheDeviceAndKeepsTheLine) {
 
 TEST(Window, writesNumbersAlikeInEveryLocale) {
     const QLocale former;
-    const std::string formerNumeric = std::setlocale(LC_NUMERIC, nullptr);
     QLocale::setDefault(QLocale(QLocale::German));
-    std::setlocale(LC_ALL, "de_DE.UTF-8"); // where the machine has it
-    {
-        RunningProgram program;
-        EXPECT_STREQ(std::localeconv()->decimal_point, ".");
-        program.clickAll(utf8("1, divided by, 4, equals"));
-        program.type(utf8("1234567.5"));
-        program.press(Qt::Key_Return);
-        EXPECT_EQ(program.historyRows(), (QStringList{utf8("1/4 is 0.25"), utf8("1234567.5 is 1234567.5")}));
-    }
+    std::setlocale(LC_ALL, "de_DE.UTF-8"); // where the machine has it; the program's start ends it
+    RunningProgram program;
+    EXPECT_STREQ(std::localeconv()->decimal_point, ".");
+    program.clickAll(utf8("1, divided by, 4, equals"));
+    program.type(utf8("1234567.5"));
+    program.press(Qt::Key_Return);
+    EXPECT_EQ(program.historyRows(), (QStringList{utf8("1/4 is 0.25"), utf8("1234567.5 is 1234567.5")}));
     QLocale::setDefault(former);
-    std::setlocale(LC_NUMERIC, formerNumeric.c_str());
 }
 
 } // namespace
