@@ -34,15 +34,12 @@ TEST_F(EditingModesTest, entryLineNamesTheEquation) {
         EXPECT_EQ(key("=")->titleString(), "save");
         EXPECT_FALSE(keyboard->displayTableViewController());
     }
-}
-
-TEST_F(EditingModesTest, heightsFollowTheFunction) {
-    LevelCurveHeights* heights = model().impliedFunctions().levelCurveHeightsAtIndex(1);
+    LevelCurveHeights* heights = model().impliedFunctions().levelCurveHeightsAtIndex(2);
     heights->setLevelCurves(true);
     heights->setStart(-1);
     heights->setDelta(0.5);
     heights->setN(3);
-    open(5, &model().impliedFunctions(), 1);
+    open(5, &model().impliedFunctions(), 2);
     press("x + y ←");
     EXPECT_EQ(entry(), "x+_y= -1, -0.5, 0");
 }

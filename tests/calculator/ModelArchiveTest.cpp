@@ -54,19 +54,12 @@ void store(ExpressionList& list, int slot, const std::string& line) {
 void fill(Model& model) {
     for (const ModelProperty& property : modelProperties()) {
         const PropertyList before = property.get(model);
-        switch (property.type) {
-        case PropertyType::Boolean:
-            property.set(model, !*before.asBool());
-            break;
-        case PropertyType::Integer: {
-            const auto changed = *before.asInteger() + 1;
-            property.set(model, static_cast<double>(changed) <= property.maximum ? changed : changed - 2);
-            break;
-        }
-        case PropertyType::Number:
-            property.set(model, *before.asDouble() / 3 + 1e-17);
-            break;
-        }
+        const auto next = before.asInteger().value_or(0) + 1;
+        const bool fits = static_cast<double>(next) <= property.maximum;
+        property.set(model, property.type == PropertyType::Boolean ? PropertyList(!*before.asBool())
+                            : property.type == PropertyType::Integer
+                                ? PropertyList(fits ? next : next - 2)
+                                : PropertyList(*before.asDouble() / 3 + 1e-17));
     }
     const std::pair<ExpressionList*, const char*> lists[] = {{&model.equations(), "sin( x ) / "},
                                                              {&model.parametricX(), "cos( t ) + "},
@@ -90,6 +83,30 @@ void fill(Model& model) {
     model.inequalityArray()[1].setInequalityTypeWithToken(Token("≥"));
 }
 
+using Settings = std::map<std::string_view, PropertyList>;
+
+Settings settings() {
+    Settings settings;
+    for (const ModelProperty& property : modelProperties()) {
+        settings.emplace(property.key, property.get(Model::m()));
+    }
+    return settings;
+}
+
+void expectSettings(const Settings& expected) {
+    for (const auto& [key, value] : settings()) {
+        EXPECT_EQ(value, expected.at(key)) << key;
+    }
+}
+
+std::vector<std::string> results() {
+    std::vector<std::string> results;
+    for (int row = 0; row < Model::m().history().nExpressions(); ++row) {
+        results.push_back(Model::m().history().entryAtIndex(row)->resultText());
+    }
+    return results;
+}
+
 TEST_F(ModelArchive, bringsAFullModelBack) {
     fill(Model::m());
     int saves = 0;
@@ -97,14 +114,8 @@ TEST_F(ModelArchive, bringsAFullModelBack) {
     Model::m().save();
     SavingRegistry::shared().reset();
     EXPECT_EQ(saves, 1);
-    std::map<std::string, PropertyList> settings;
-    for (const ModelProperty& property : modelProperties()) {
-        settings.emplace(property.key, property.get(Model::m()));
-    }
-    std::vector<std::string> results;
-    for (int row = 0; row < 50; ++row) {
-        results.push_back(Model::m().history().entryAtIndex(row)->resultText());
-    }
+    Settings expected = settings();
+    const std::vector<std::string> shown = results();
     PropertyDictionary saved = *archivedModel(Model::m()).asDictionary();
 
     Model& model = freshModel();
@@ -112,17 +123,13 @@ TEST_F(ModelArchive, bringsAFullModelBack) {
     model.load();
     EXPECT_FALSE(model.trailingZeroes());
     model.setTrailingZeroes(true); // as when the results were noted
-    settings["soundVolume"] = 0.3;
-    settings["iOnMainKeyboard"] = false;
-    settings["displayMode"] = 4;             // this is a phone
-    settings["pickerSelectedUnitIndex"] = 0; // of earlier releases: no longer written
-    settings["nHasBecomeActive"] = *settings["nHasBecomeActive"].asInteger() + 2;
-    for (const ModelProperty& property : modelProperties()) {
-        EXPECT_EQ(property.get(model), settings[std::string(property.key)]) << property.key;
-    }
-    for (int row = 0; row < 50; ++row) {
-        EXPECT_EQ(model.history().entryAtIndex(row)->resultText(), results[static_cast<std::size_t>(row)]);
-    }
+    expected["soundVolume"] = 0.3;
+    expected["iOnMainKeyboard"] = false;
+    expected["displayMode"] = 4;             // this is a phone
+    expected["pickerSelectedUnitIndex"] = 0; // of earlier releases: no longer written
+    expected["nHasBecomeActive"] = *expected["nHasBecomeActive"].asInteger() + 2;
+    expectSettings(expected);
+    EXPECT_EQ(results(), shown);
     EXPECT_EQ(model.constants().fullFunctionNameWithIndex(49), "name49");
     EXPECT_EQ(model.angleModeAsString(), "Degrees");
     saved["nHasBecomeActiveKey"] = model.nHasBecomeActive();
@@ -136,6 +143,7 @@ TEST_F(ModelArchive, bringsAFullModelBack) {
 
 TEST_F(ModelArchive, readsDefaultsForWhatIsAbsentOrUnusable) {
     const double infinity = std::numeric_limits<double>::infinity();
+    constexpr int kMost = std::numeric_limits<int>::max();
     const std::tuple<PropertyDictionary, const char*, PropertyList> rows[] = {
         {{}, "displayMode", 1},
         {{{"displayModeEnumKey", 4}}, "displayMode", 1}, // a phone's
@@ -155,28 +163,21 @@ TEST_F(ModelArchive, readsDefaultsForWhatIsAbsentOrUnusable) {
         {{{"xMinForGraphKey", 2.0}, {"yMaxForGraphKey", infinity}}, "xMinForGraph", -10.0},
         {{{"iOnMainKeyboard", true}}, "iOnMainKeyboard", false},
         {{{"PickerSelectedUnitIndex", -3}}, "pickerSelectedUnitIndex", 0},
-        {{{"nHasBecomeActiveKey", std::int64_t{1} << 40}},
-         "nHasBecomeActive",
-         std::numeric_limits<int>::max()},
-    };
+        {{{"nHasBecomeActiveKey", std::int64_t{1} << 40}}, "nHasBecomeActive", kMost}};
     PlainDevice tablet(DeviceClass::Tablet);
     const DeviceScope scope(tablet);
     for (const auto& [archive, property, value] : rows) {
         EXPECT_EQ(loaded(archive).valueForKey(property), value) << property;
         EXPECT_EQ(Model::m().inequalityArray().size(), 4U);
     }
-    std::vector<PropertyList> atFirst;
-    for (const ModelProperty& property : modelProperties()) {
-        atFirst.push_back(property.get(freshModel()));
-    }
+    freshModel();
+    Settings first = settings();
     fill(Model::m());
-    loadArchivedModel(Model::m(), PropertyList());
-    for (std::size_t i = 0; i < atFirst.size(); ++i) {
-        const ModelProperty& property = modelProperties()[i];
-        if (property.key != "trailingZeroes" && property.key != "nHasBecomeActive") { // no part of a load
-            EXPECT_EQ(property.get(Model::m()), atFirst[i]) << property.key;
-        }
+    for (const char* notOfALoad : {"trailingZeroes", "nHasBecomeActive"}) {
+        first[notOfALoad] = *Model::m().valueForKey(notOfALoad);
     }
+    loadArchivedModel(Model::m(), PropertyList());
+    expectSettings(first);
     const PropertyArray rowsOfAnEarlierRelease{1, 2};
     loaded({{"SelectedUnitConverterPickerRows", rowsOfAnEarlierRelease}});
     EXPECT_EQ(Model::m().selectedUnitConverterPickerRows(), rowsOfAnEarlierRelease);

@@ -20,11 +20,6 @@ TEST_F(OpenedScreensTest, unregisteredScreensDoNothingButLog) {
 
 TEST_F(OpenedScreensTest, choicesAreInserted) {
     open();
-    keyboard->functionSelected("gcd(,");
-    press("1 2");
-    EXPECT_EQ(entry(), "gcd(12_,");
-    press("→ 8 = =");
-    EXPECT_EQ(history().back(), "gcd(12,8) = 4");
     keyboard->namedExpressionSelected(Token("G=6.6742(8)"));
     press("* 2");
     EXPECT_EQ(entry(), "G*2");
