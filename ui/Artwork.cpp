@@ -70,7 +70,7 @@ void drawRoot(const Canvas& canvas) {
     radical.lineTo(9.6, 19);
     radical.lineTo(13.4, 5);
     radical.lineTo(20.5, 5);
-    QPen pen(Qt::white, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    QPen pen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     canvas.painter.setPen(pen);
     canvas.painter.setBrush(Qt::NoBrush);
     canvas.painter.drawPath(radical);
@@ -84,32 +84,39 @@ void drawRoot(const Canvas& canvas) {
 }
 
 /// Thin round lines in the unit square, for outlines.
-QPainter& useLinePen(const Canvas& canvas) {
+QPainter& useLinePen(const Canvas& canvas, double width = 1.6) {
     useUnitSquare(canvas);
-    canvas.painter.setPen(QPen(Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    canvas.painter.setPen(QPen(Qt::white, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     canvas.painter.setBrush(Qt::NoBrush);
     return canvas.painter;
 }
 
+constexpr double kSignWidth = 1.9; // as heavy as the digits beside it
+
 void drawPlus(const Canvas& canvas) {
-    QPainter& painter = useLinePen(canvas);
-    painter.drawLine(QPointF(12, 6), QPointF(12, 18));
-    painter.drawLine(QPointF(6, 12), QPointF(18, 12));
+    QPainter& painter = useLinePen(canvas, kSignWidth);
+    painter.drawLine(QPointF(12, 5.5), QPointF(12, 18.5));
+    painter.drawLine(QPointF(5.5, 12), QPointF(18.5, 12));
 }
 
-void drawMinus(const Canvas& canvas) { useLinePen(canvas).drawLine(QPointF(6, 12), QPointF(18, 12)); }
+void drawMinus(const Canvas& canvas) {
+    useLinePen(canvas, kSignWidth).drawLine(QPointF(5.5, 12), QPointF(18.5, 12));
+}
 
 void drawTimes(const Canvas& canvas) {
-    QPainter& painter = useLinePen(canvas);
-    painter.drawLine(QPointF(12, 6.8), QPointF(12, 17.2));
-    painter.drawLine(QPointF(7.5, 9.4), QPointF(16.5, 14.6));
-    painter.drawLine(QPointF(7.5, 14.6), QPointF(16.5, 9.4));
+    QPainter& painter = useLinePen(canvas, kSignWidth);
+    painter.drawLine(QPointF(12, 6), QPointF(12, 18));
+    painter.drawLine(QPointF(6.8, 9), QPointF(17.2, 15));
+    painter.drawLine(QPointF(6.8, 15), QPointF(17.2, 9));
 }
 
-void drawSlash(const Canvas& canvas) { useLinePen(canvas).drawLine(QPointF(15, 5), QPointF(9, 19)); }
+void drawSlash(const Canvas& canvas) {
+    useLinePen(canvas, kSignWidth).drawLine(QPointF(15, 4.5), QPointF(9, 19.5));
+}
 
 void drawCaret(const Canvas& canvas) {
-    useLinePen(canvas).drawPolyline(QPolygonF({QPointF(7, 14.5), QPointF(12, 8.5), QPointF(17, 14.5)}));
+    useLinePen(canvas, kSignWidth)
+        .drawPolyline(QPolygonF({QPointF(6.5, 14.8), QPointF(12, 8.2), QPointF(17.5, 14.8)}));
 }
 
 void drawCalculator(const Canvas& canvas) {
