@@ -23,8 +23,6 @@
 namespace velmora {
 namespace {
 
-using testing::ElementsAre;
-
 /// A folder for the user's files, and a model as at a first start.
 class ModelArchive : public testing::Test {
 protected:
