@@ -20,6 +20,7 @@ struct KeyAppearance {
     double fontSize = 0; ///< points
     Color titleColor = Color::white(1);
     std::string accessibleName; ///< what a screen reader says
+    bool chosen = false;        ///< looks pressed: the sign in force of an inequality
     bool operator==(const KeyAppearance&) const = default;
 };
 
@@ -48,6 +49,7 @@ public:
     void setAppearance(KeyAppearance appearance) { m_appearance = std::move(appearance); }
     void setBackgroundImageName(std::string name) { m_appearance.backgroundImageName = std::move(name); }
     void setAccessibleName(std::string name) { m_appearance.accessibleName = std::move(name); }
+    void setChosen(bool chosen) { m_appearance.chosen = chosen; }
     bool isShown() const { return m_appearance.shown; }
 
     /// A touch has ended inside the key. The last title wraps round without taking anything back: a third

@@ -1,7 +1,6 @@
 #include "calculator/EntryLineText.h"
 
 #include "calculator/Entering.h"
-#include "calculator/InequalityTokens.h"
 #include "engine/ExpressionList.h"
 #include "engine/ExpressionWithLevelCurveHeightsList.h"
 #include "engine/ExpressionWithTokenArray.h"
@@ -76,9 +75,6 @@ EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, int entering
     text.beforeCursor = beforeCursor + typedName;
     if (target && entering >= kEnteringFunction && entering <= kEnteringPolar) {
         text.prefix = target->fullFunctionNameWithIndex(whichEquation) + "=";
-    }
-    if (const auto* inequality = dynamic_cast<const InequalityTokens*>(&buffer)) {
-        text.suffix = inequality->inequalityType() + "0";
     }
     if (entering == kEnteringImpliedFunction) {
         const auto* functions = dynamic_cast<const ExpressionWithLevelCurveHeightsList*>(target);

@@ -20,7 +20,7 @@ constexpr std::string_view kGreetingMark = "%!%";
 constexpr double kAngleRowHeight = 50;
 
 std::string without(std::string text, std::string_view part) {
-    if (const auto at = text.find(part); at != std::string::npos) {
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at)) {
         text.erase(at, part.size());
     }
     return text;

@@ -58,6 +58,7 @@ void KeyboardViewController::insertANS() {
     const ExpressionWithTokenArray* last = history.entryAtIndex(history.nExpressions() - 1);
     const ComplexValue answer = last ? last->resultValue() : ComplexValue(0);
     insertElement(NamedExpression(std::make_shared<Number>(answer), "ans"));
+    updateDisplay();
 }
 
 void KeyboardViewController::functionSelected(const std::string& text) {
@@ -81,14 +82,13 @@ void KeyboardViewController::numberEntered(ComplexValue value) {
 void KeyboardViewController::displayTableViewButtonPressed(const Notification& notification) {
     const KeyedUnarchiver info(notification.userInfo);
     const auto row = info.integer("row");
-    const auto left = info.boolean("left");
-    if (!row || !left) {
+    if (!row || !finishTypedName()) {
         return;
     }
     endPressCounts();
     const int index = static_cast<int>(*row) - m_table->nTipCells();
     if (const ExpressionWithTokenArray* entry = Model::m().history().entryAtIndex(index)) {
-        if (*left) {
+        if (info.boolean("left").value_or(false)) {
             const TokenArray tokens = entry->tokenArray();
             for (const TokenElement& token : tokens) {
                 insertElement(token);

@@ -18,6 +18,8 @@ public:
     virtual void showEntry() = 0;
     /// The face of the tall key has changed.
     virtual void showEqualsKey() = 0;
+    /// Which sign of inequality is in force has changed.
+    virtual void showChosenSign() = 0;
     /// The keys are other objects than before.
     virtual void keysChanged() = 0;
     /// Frames and fonts have changed.

@@ -3,6 +3,7 @@
 #include "calculator/Assertion.h"
 #include "calculator/DisplayHistoryTableViewController.h"
 #include "calculator/EntryLineText.h"
+#include "calculator/InequalityTokens.h"
 #include "calculator/KeyTable.h"
 #include "calculator/KeyboardGeometry.h"
 #include "calculator/KeyboardLayoutStrings.h"
@@ -188,6 +189,19 @@ void KeyboardView::updateEqualsButton() {
     }
 }
 
+void KeyboardView::updateChosenSign() {
+    const auto* inequality = dynamic_cast<const InequalityTokens*>(m_displayModel);
+    bool changed = false;
+    for (const auto& button : m_buttons) {
+        const bool chosen = inequality && button->titleString() == inequality->inequalityType();
+        changed = changed || chosen != button->appearance().chosen;
+        button->setChosen(chosen);
+    }
+    if (KeyboardScreen* screen = changed ? m_controller.screen() : nullptr) {
+        screen->showChosenSign();
+    }
+}
+
 void KeyboardView::updateDisplay() {
     if (!m_displayModel) {
         return;
@@ -200,6 +214,7 @@ void KeyboardView::updateDisplay() {
         screen->showEntry();
     }
     updateEqualsButton();
+    updateChosenSign();
 }
 
 std::shared_ptr<CalculatorButton> KeyboardView::buttonTyping(const std::string& text) const {

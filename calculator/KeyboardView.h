@@ -46,7 +46,9 @@ public:
     void createButtons();
     /// The face of the tall key: ")" while a parenthesis is open.
     void updateEqualsButton();
-    /// The entry line's text and the tall key's face.
+    /// Lights the key of the sign of the inequality being edited, which the line does not show.
+    void updateChosenSign();
+    /// The entry line's text, the tall key's face and the lit sign.
     void updateDisplay();
 
     /// The keys in the order of the layout, the ones not shown included.

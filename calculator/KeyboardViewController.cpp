@@ -299,6 +299,9 @@ void KeyboardViewController::equalsButtonPressed() {
     }
     switch (m_entering) {
     case kEnteringCalculatorLine:
+        if (m_displayModel->count() == 0) {
+            return;
+        }
         appendLineToHistory();
         break;
     case kEnteringInequality:
@@ -313,9 +316,6 @@ void KeyboardViewController::equalsButtonPressed() {
 }
 
 void KeyboardViewController::appendLineToHistory() {
-    if (m_displayModel->count() == 0) {
-        return;
-    }
     ExpressionList& history = Model::m().history();
     history.addExpressionTokenArray(m_displayModel->tokenArray());
     if (ExpressionWithTokenArray* row = history.entryAtIndex(history.nExpressions() - 1)) {

@@ -70,7 +70,7 @@ void drawRoot(const Canvas& canvas) {
     radical.lineTo(9.6, 19);
     radical.lineTo(13.4, 5);
     radical.lineTo(20.5, 5);
-    QPen pen(Qt::white, 1.7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    QPen pen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     canvas.painter.setPen(pen);
     canvas.painter.setBrush(Qt::NoBrush);
     canvas.painter.drawPath(radical);
@@ -81,6 +81,42 @@ void drawRoot(const Canvas& canvas) {
     pen.setWidthF(1.5);
     canvas.painter.setPen(pen);
     canvas.painter.drawPath(radicand);
+}
+
+/// Thin round lines in the unit square, for outlines.
+QPainter& useLinePen(const Canvas& canvas, double width = 1.6) {
+    useUnitSquare(canvas);
+    canvas.painter.setPen(QPen(Qt::white, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    canvas.painter.setBrush(Qt::NoBrush);
+    return canvas.painter;
+}
+
+constexpr double kSignWidth = 1.9; // as heavy as the digits beside it
+
+void drawPlus(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas, kSignWidth);
+    painter.drawLine(QPointF(12, 5.5), QPointF(12, 18.5));
+    painter.drawLine(QPointF(5.5, 12), QPointF(18.5, 12));
+}
+
+void drawMinus(const Canvas& canvas) {
+    useLinePen(canvas, kSignWidth).drawLine(QPointF(5.5, 12), QPointF(18.5, 12));
+}
+
+void drawTimes(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas, kSignWidth);
+    painter.drawLine(QPointF(12, 6), QPointF(12, 18));
+    painter.drawLine(QPointF(6.8, 9), QPointF(17.2, 15));
+    painter.drawLine(QPointF(6.8, 15), QPointF(17.2, 9));
+}
+
+void drawSlash(const Canvas& canvas) {
+    useLinePen(canvas, kSignWidth).drawLine(QPointF(15, 4.5), QPointF(9, 19.5));
+}
+
+void drawCaret(const Canvas& canvas) {
+    useLinePen(canvas, kSignWidth)
+        .drawPolyline(QPolygonF({QPointF(6.5, 14.8), QPointF(12, 8.2), QPointF(17.5, 14.8)}));
 }
 
 void drawCalculator(const Canvas& canvas) {
@@ -97,14 +133,6 @@ void drawCalculator(const Canvas& canvas) {
             painter.drawEllipse(QPointF(x, y), 1.05, 1.05);
         }
     }
-}
-
-/// Thin round lines in the unit square, for outlines.
-QPainter& useLinePen(const Canvas& canvas) {
-    useUnitSquare(canvas);
-    canvas.painter.setPen(QPen(Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    canvas.painter.setBrush(Qt::NoBrush);
-    return canvas.painter;
 }
 
 void drawCentred(QPainter& painter, const QRectF& area, const QString& text, int size, bool italic) {
@@ -181,6 +209,11 @@ struct Drawing {
 const std::array kDrawings{
     Drawing{QLatin1String("panel"), drawPanel},
     Drawing{QLatin1String("root"), drawRoot},
+    Drawing{QLatin1String("plus"), drawPlus},
+    Drawing{QLatin1String("minus"), drawMinus},
+    Drawing{QLatin1String("times"), drawTimes},
+    Drawing{QLatin1String("slash"), drawSlash},
+    Drawing{QLatin1String("caret"), drawCaret},
     Drawing{QLatin1String("calculator.png"), drawCalculator},
     Drawing{QLatin1String("equation.png"), drawEquation},
     Drawing{QLatin1String("graph.png"), drawGraph},

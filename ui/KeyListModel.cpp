@@ -10,12 +10,25 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 namespace velmora {
 
 namespace {
 
-constexpr const char* kRootSign = "root";
+/// The keys whose signs are drawn: the root has no title, and a font's operators are small and stand off
+/// the middle.
+struct KeySign {
+    std::string_view title;
+    const char* artwork;
+};
+constexpr std::array kKeySigns{KeySign{"", "root"},   KeySign{"+", "plus"},  KeySign{"-", "minus"},
+                               KeySign{"*", "times"}, KeySign{"/", "slash"}, KeySign{"^", "caret"}};
+
+const char* keySign(std::string_view title) {
+    const auto* found = std::ranges::find(kKeySigns, title, &KeySign::title);
+    return found == kKeySigns.end() ? nullptr : found->artwork;
+}
 
 } // namespace
 
@@ -51,9 +64,12 @@ QVariant KeyListModel::data(const QModelIndex& index, int role) const {
         return face({});
     case PressedFaceRole:
         return face(kPressedSuffix);
-    case SignRole:
-        // A key that is shown without a title is known by its artwork alone.
-        return key.isShown() && key.titleString().empty() ? m_scene.artwork(kRootSign) : QUrl();
+    case SignRole: {
+        const char* sign = key.isShown() ? keySign(key.titleString()) : nullptr;
+        return sign != nullptr ? m_scene.artwork(sign) : QUrl();
+    }
+    case ChosenRole:
+        return appearance.chosen;
     case SpokenNameRole:
         return QString::fromStdString(appearance.accessibleName);
     default:
@@ -70,6 +86,7 @@ QHash<int, QByteArray> KeyListModel::roleNames() const {
             {FaceRole, "face"},
             {PressedFaceRole, "pressedFace"},
             {SignRole, "sign"},
+            {ChosenRole, "chosen"},
             {SpokenNameRole, "spokenName"}};
 }
 

@@ -192,6 +192,8 @@ void KeyboardScreenAdapter::showEntry() { Q_EMIT entryRefreshed(); }
 
 void KeyboardScreenAdapter::showEqualsKey() { m_keys.refreshEqualsKey(); }
 
+void KeyboardScreenAdapter::showChosenSign() { m_keys.refresh(); }
+
 void KeyboardScreenAdapter::keysChanged() { m_keys.exchange(); }
 
 void KeyboardScreenAdapter::layoutChanged() {

@@ -91,6 +91,7 @@ public:
     void scrollHistoryToEnd(bool animated) override;
     void showEntry() override;
     void showEqualsKey() override;
+    void showChosenSign() override;
     void keysChanged() override;
     void layoutChanged() override;
     void showEditMenu(bool shown) override;

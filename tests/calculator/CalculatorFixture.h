@@ -30,6 +30,7 @@ public:
     void scrollHistoryToEnd(bool animated) override { animated ? ++animatedScrolls : ++scrolls; }
     void showEntry() override { ++entries; }
     void showEqualsKey() override {}
+    void showChosenSign() override {}
     void keysChanged() override { ++keyChanges; }
     void layoutChanged() override { ++layouts; }
     void showEditMenu(bool shown) override { menuShown = shown; }
@@ -157,6 +158,15 @@ public:
             rows.push_back(cell.inputLabel().text + " = " + cell.outputLabel().text);
         }
         return rows;
+    }
+
+    /// The history and the entry line, such as "1+1 = 2; ans+".
+    std::string shown() {
+        std::string text;
+        for (const std::string& row : history()) {
+            text += row + "; ";
+        }
+        return text + entry();
     }
 
     RecordingScreen screen;

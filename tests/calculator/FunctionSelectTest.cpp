@@ -20,7 +20,7 @@ protected:
         const char* const list = R"(<plist version="1.0"><array>
             <string>Functions</string><string>All of it</string>
             <dict><key>content</key><string>Angles</string><key>hint</key><string/></dict>
-            <dict><key>content</key><string>%%Waves</string><key>hint</key><string/></dict>
+            <dict><key>content</key><string>%%Waves%%</string><key>hint</key><string/></dict>
             <dict><key>content</key><string>sin$$$$(</string><key>hint</key><string>si$$$$ne</string></dict>
             <dict><key>content</key><string>G=6.674(3)</string><key>hint</key><string>gravity</string></dict>
             <dict><key>content</key><string>FFFF</string><key>hint</key><string/></dict>
@@ -91,6 +91,11 @@ TEST_F(FunctionSelectTest, showsEachKindOfContent) {
         EXPECT_EQ(row.detailAlignment == TextAlignment::Right, row.kind == OpensScreen);
     }
     EXPECT_TRUE(logHolds("rand is 57"));
+    top().selectRow(0); // the choice stands in the row itself
+    EXPECT_EQ(Model::m().angleMode(), 0);
+    top().setAngleMode(1);
+    top().setAngleMode(2);
+    EXPECT_EQ(Model::m().angleModeAsString(), "Degrees");
 }
 
 TEST_F(FunctionSelectTest, putsChoicesIntoTheLine) {
@@ -115,9 +120,19 @@ TEST_F(FunctionSelectTest, putsChoicesIntoTheLine) {
     EXPECT_EQ(entry(), "sin(gcd(y4(_,");
 }
 
-TEST_F(FunctionSelectTest, offersConditionalsOnlyWithAVariable) {
-    open(1, &Model::m().equations());
-    press("func");
+TEST_F(FunctionSelectTest, opensTheListOfItsKeyWithTheEntriesOfItsLine) {
+    Model& model = Model::m();
+    const std::tuple<int, ExpressionList*, const char*, const char*> cases[] = {
+        {0, nullptr, "cnst", "Constants"},
+        {0, nullptr, "trig", "TrigFunctions"},
+        {1, &model.constants(), "func", "Functions"},
+        {1, &model.equations(), "func", "Functions"}};
+    for (const auto& [entering, target, listKey, name] : cases) {
+        open(entering, target);
+        press(listKey);
+        EXPECT_EQ(top().functionListName(), name);
+        EXPECT_EQ(top().variableIsDefined(), target == &model.equations());
+    }
     choose("conditional(,,)");
     EXPECT_EQ(entry(), "y1(x)=conditional(_,,");
 }
@@ -137,16 +152,6 @@ TEST_F(FunctionSelectTest, withoutACalculatorBelowItGoesToTheCalculatorTab) {
     EXPECT_EQ(entry(), "sin(");
     tabs->setSelectedIndex(1);
     EXPECT_EQ(reference->topViewController(), list) << "the reference stays where it was";
-}
-
-TEST_F(FunctionSelectTest, theAngleRowChangesTheModeAtOnce) {
-    FunctionSelectViewController& list = openList();
-    list.selectRow(0);
-    EXPECT_EQ(Model::m().angleMode(), 0);
-    list.setAngleMode(1);
-    EXPECT_EQ(Model::m().angleModeAsString(), "Degrees");
-    list.setAngleMode(2);
-    EXPECT_EQ(list.angleMode(), 1);
 }
 
 TEST_F(FunctionSelectTest, greetsOnSpecialDaysAndByChance) {
@@ -199,24 +204,13 @@ TEST_F(FunctionSelectTest, ownConstantsAreDefinedNamedChangedAndDeleted) {
         EXPECT_EQ(alerts.alerts().size(), accepted ? 0U : 1U) << name;
     }
     EXPECT_EQ(editor.name(), "rate");
-    editor.editValue();
-    const auto keys = std::dynamic_pointer_cast<KeyboardViewController>(stack->topViewController());
-    ASSERT_TRUE(keys);
-    EXPECT_EQ(keys->entering(), 1);
-    keys->keyboardView().setSize(320, 499);
-    for (const char* key : {"7", "/", "2", "Enter"}) {
-        keys->hardwareKey(key);
-    }
-    EXPECT_EQ(stack->topViewController().get(), &editor);
-    EXPECT_EQ(editor.valueText(), "7/2");
+    Model::m().constants().setExpressionAtIndex(2, ExpressionWithTokenArray(tokens("7 / 2")), false);
     stack->pop();
     list.pressRightBarButton(0); // "Done"
-    EXPECT_EQ(list.rows()[2].title, "rate");
     EXPECT_EQ(list.rows()[2].value, "7/2");
     choose("rate");
-    EXPECT_EQ(entry(), "rate");
     press("=");
-    EXPECT_EQ(Model::m().history().entryAtIndex(0)->resultText(), "3.5");
+    EXPECT_EQ(history().back(), "rate = 3.5");
 
     ConstantEditViewController again(2);
     alerts.clear();

@@ -1,7 +1,5 @@
 #include "tests/calculator/CalculatorFixture.h"
 
-#include "platform/NotificationCentre.h"
-
 namespace velmora::test {
 namespace {
 
@@ -21,9 +19,7 @@ TEST_F(HistoryTest, tipStandsAboveTheHistoryUntilSettingsAreOpened) {
     EXPECT_EQ(tip.tipLabel().text, "TIP:  Settings are available on the \"More\" tab.");
     EXPECT_EQ(tip.tipLabel().fontSize, 16); // 0.4 of 40
     EXPECT_EQ(tip.tipLabel().minimumFontSize, 10);
-
     press("4 =");
-    EXPECT_EQ(table.numberOfRows(), 2);
     EXPECT_EQ(table.reuseIdentifierForRow(1), "DisplayHistoryCell");
     Model::m().setSettingsHaveBeenAccessed(true);
     EXPECT_EQ(table.numberOfRows(), 1);
@@ -31,56 +27,46 @@ TEST_F(HistoryTest, tipStandsAboveTheHistoryUntilSettingsAreOpened) {
 }
 
 TEST_F(HistoryTest, tapsInsertTheLineOrItsResult) {
-    for (const bool withTip : {true, false}) {
-        SCOPED_TRACE(withTip);
+    for (const int tips : {1, 0}) {
+        SCOPED_TRACE(tips);
         Model::resetForTests();
-        Model::m().setSettingsHaveBeenAccessed(!withTip);
+        Model::m().setSettingsHaveBeenAccessed(tips == 0);
         open();
         press("1 + 2 = 5 * 6 =");
-        const int first = withTip ? 1 : 0;
-        tap(first, true);
-        EXPECT_EQ(entry(), "1+2");
+        DisplayHistoryTableViewController().historyCell(tips, 320).buttonPressed(true); // of another screen
+        EXPECT_EQ(entry(), "");
+        tap(tips, true);
         press("+"); // the cursor stands behind what was inserted
-        tap(first + 1, false);
+        tap(tips + 1, false);
         EXPECT_EQ(entry(), "1+2+(30)");
         press("=");
         EXPECT_EQ(history().back(), "1+2+(30) = 33");
-        tap(first + 7, true); // no such row
+        tap(tips + 7, true); // no such row
         EXPECT_EQ(entry(), "");
     }
 }
 
-TEST_F(HistoryTest, resultIsTheOneShown) {
+TEST_F(HistoryTest, keepsFiftyResultsAsTheyWereShown) {
     open();
+    press("9 =");
     Model::m().equations().setExpressionAtIndex(0, ExpressionWithTokenArray(tokens("2 * x")), true);
     keyboard->functionSelected("y1(");
     press("4 = =");
     EXPECT_EQ(history().back(), "y1(4) = 8");
     Model::m().equations().setExpressionAtIndex(0, ExpressionWithTokenArray(tokens("3 * x")), true);
     EXPECT_EQ(history().back(), "y1(4) = 8"); // a later edit does not change a past result
-    press("+ 1 =");
-    EXPECT_EQ(history().back(), "ans+1 = 9");
-    tap(1, false);
+    tap(2, false);
     press("=");
     EXPECT_EQ(history().back(), "(8) = 8");
-}
-
-TEST_F(HistoryTest, resultsAreWrittenInThePresentStyle) {
-    open();
-    press("1 / 3 =");
+    press("+ 1 / 3 =");
+    EXPECT_EQ(history().back(), "ans+1/3 = 8.33333");
     Model::m().setDisplayDigits(3);
-    EXPECT_EQ(history().back(), "1/3 = 0.333");
-}
-
-TEST_F(HistoryTest, otherTablesAreNotHeard) {
-    open();
-    press("1 =");
-    const DisplayHistoryTableViewController another;
-    another.historyCell(1, 320).buttonPressed(true);
-    EXPECT_EQ(entry(), "");
-    NotificationCentre::defaultCentre().post(kCalculatorKeyboardButtonPressedNotification,
-                                             keyboard->displayTableViewController(), {{"row", 1}});
-    EXPECT_EQ(entry(), ""); // not told which side
+    EXPECT_EQ(history().back(), "ans+1/3 = 8.333"); // written in the present style
+    for (int i = 0; i < 47; ++i) {
+        press("1 =");
+    }
+    EXPECT_EQ(history().size(), 50U);
+    EXPECT_EQ(history().front(), "y1(4) = 8"); // the 9 before it is gone
 }
 
 TEST_F(HistoryTest, rowLayout) {
@@ -96,9 +82,8 @@ TEST_F(HistoryTest, rowLayout) {
     EXPECT_EQ(cell.leftButtonFrame(), (Rect{0, 0, 80, 59}));
     EXPECT_EQ(cell.rightButtonFrame(), (Rect{240, 0, 80, 59}));
     cell.setRightButtonWidthMultiplier(2);
-    cell.layout({320, 59});
-    EXPECT_EQ(cell.rightButtonFrame(), (Rect{160, 0, 160, 59}));
     cell.layout({320, 40});
+    EXPECT_EQ(cell.rightButtonFrame(), (Rect{160, 0, 160, 40}));
     EXPECT_EQ(cell.outputLabel().fontSize, 600.0 / 38); // the product first, which rounds only once
 }
 

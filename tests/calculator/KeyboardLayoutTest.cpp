@@ -9,93 +9,84 @@ namespace {
 
 class KeyboardLayoutTest : public KeyboardTest {
 public:
-    void openTablet(int entering, Orientation orientation, int displayMode, double width, double height) {
-        device = PlainDevice(DeviceClass::Tablet, orientation);
-        Model::m().setDisplayMode(displayMode);
-        open(entering, nullptr, 0, width, height);
+    /// Opens a mode on a view of the usual size of a geometry.
+    void openOn(int geometry, int entering, ExpressionList* target = nullptr) {
+        using enum DeviceClass;
+        using enum Orientation;
+        device = PlainDevice(geometry < 3 ? Tablet : Phone, geometry == 2 ? LandscapeLeft : Portrait);
+        Model::m().setDisplayMode(geometry == 0 ? 2 : 1);
+        Model::m().setLargeFontsOnPhone(geometry == 3);
+        const Size sizes[] = {{768, 955}, {768, 955}, {1024, 699}, {320, 499}, {320, 499}};
+        open(entering, target, 0, sizes[geometry].width, sizes[geometry].height);
     }
 
     /// The keyboard as rows of titles, "·" where no key shows, told from the frames alone.
-    Texts rows() {
+    std::string rows() {
         std::map<double, std::map<double, std::string>> byPlace;
         for (const auto& button : keyboard->keyboardView().buttonArray()) {
             const std::string title = button->isShown() ? button->titleString() : "·";
             byPlace[button->frame().y][button->frame().x] += title.empty() ? "√" : title;
         }
-        Texts rows;
+        std::string rows;
         for (const auto& [y, row] : byPlace) {
-            std::string text;
             for (const auto& [x, title] : row) {
-                text += (text.empty() ? "" : "|") + title;
+                rows += (x == row.begin()->first ? "" : "|") + title;
             }
-            rows.push_back(text);
+            rows += "; ";
         }
         return rows;
     }
-    Rect frameOf(const std::string& title) { return key(title)->frame(); }
 };
 
-TEST_F(KeyboardLayoutTest, narrowKeyboards) {
-    const Texts standard{"←|→|del|clr|√", "^|+|-|*|/",     "func|7|8|9|e E",
-                         "cnst|4|5|6|π",  "trig|1|2|3|=)", "units|0|.|("};
-    open();
-    EXPECT_EQ(rows(), standard);
-
-    Model::m().setWhichKeyboard(1);
-    open();
-    EXPECT_EQ(rows(), (Texts{"←|→|e E|√|/", "del|clr|π|^|*", "func|7|8|9|-", "cnst|4|5|6|+", "trig|1|2|3|=)",
-                             "units|0|.|("}));
-    Model::m().setWhichKeyboard(0);
-
-    open(3, &Model::m().polarR());
-    EXPECT_EQ(rows()[3], "cnst|4|5|6|π");
-    open(4);
-    EXPECT_EQ(rows(), (Texts{"←|→|del|clr|√", "^|+|-|*|/", "func|7|8|9|e E", "cnst|4|5|6|x π", "trig|1|2|3|y",
-                             "units|0|.|(|save", "≥|>|≤|<"}));
-    open(5, &Model::m().impliedFunctions());
-    // Under the tall key of three rows lies one key, a blank; the last row begins one cell in.
-    EXPECT_EQ(rows(), (Texts{"←|→|del|clr|√", "^|+|-|*|/", "func|7|8|9|e E", "cnst|4|5|6|π",
-                             "trig|1|2|3|save", "units|0|.|(|·", "·|x|y"}));
+TEST_F(KeyboardLayoutTest, keysStandInTheirPlaces) {
+    const struct {
+        int geometry, entering, arrangement;
+        const char* rows;
+    } cases[] = {
+        {4, 0, 0, "←|→|del|clr|√; ^|+|-|*|/; func|7|8|9|e E; cnst|4|5|6|π; trig|1|2|3|=); units|0|.|(; "},
+        {1, 0, 1, "←|→|e E|√|/; del|clr|π|^|*; func|7|8|9|-; cnst|4|5|6|+; trig|1|2|3|=); units|0|.|(; "},
+        {3, 4, 0,
+         "←|→|del|clr|√; ^|+|-|*|/; func|7|8|9|e E; cnst|4|5|6|x π; trig|1|2|3|y; units|0|.|(|save; "
+         "≥|>|≤|<; "},
+        {4, 4, 1,
+         "←|→|e E|√|/; del|clr|x π|^|*; func|7|8|9|-; cnst|4|5|6|+; trig|1|2|3|y; units|0|.|(|save; "
+         "≥|>|≤|<; "},
+        // Under the tall key of three rows lies one key, a blank; the last row begins one cell in.
+        {4, 5, 0,
+         "←|→|del|clr|√; ^|+|-|*|/; func|7|8|9|e E; cnst|4|5|6|π; trig|1|2|3|save; units|0|.|(|·; ·|x|y; "},
+        {0, 0, 1, "←|→|+|-|7|8|9|e E; del|clr|*|/|4|5|6|π; func|cnst|^|√|1|2|3|=); trig|units|·|·|0|.|(; "},
+        {2, 4, 0,
+         "≥|←|→|+|-|7|8|9|e E; >|del|clr|*|/|4|5|6|π; ≤|func|cnst|^|√|1|2|3|save; <|trig|units|x|y|0|.|(; "},
+        {0, 5, 0,
+         "←|→|+|-|7|8|9|e E; del|clr|*|/|4|5|6|π; func|cnst|^|√|1|2|3|save; trig|units|x|y|0|.|(; "}};
+    for (const auto& c : cases) {
+        Model::m().setWhichKeyboard(c.arrangement);
+        openOn(c.geometry, c.entering);
+        EXPECT_EQ(rows(), c.rows);
+    }
 }
 
-TEST_F(KeyboardLayoutTest, keyOfPiCarriesTheVariable) {
+TEST_F(KeyboardLayoutTest, variableIsThatOfTheList) {
     Model& model = Model::m();
     const struct {
         int entering;
         ExpressionList* target;
-        const char* title;
-    } cases[] = {
-        {0, nullptr, "π"},
-        {1, &model.equations(), "x π"},
-        {1, &model.polarR(), "θ π"},
-        {1, &model.constants(), "π"},
-        {2, &model.parametricX(), "t π"},
-        {3, &model.polarR(), "π"},
-    };
+        const char* keyOfPi;
+        const char* wideRow;
+    } cases[] = {{0, nullptr, "π", "·|·"},
+                 {1, &model.equations(), "x π", "·|x"},
+                 {1, &model.polarR(), "θ π", "·|θ"},
+                 {1, &model.constants(), "π", "·|·"},
+                 {2, &model.parametricX(), "t π", "·|t"},
+                 {3, &model.polarR(), "π", "·|·"}};
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.title);
-        open(c.entering, c.target);
-        EXPECT_TRUE(key(c.title));
+        SCOPED_TRACE(c.keyOfPi);
+        openOn(4, c.entering, c.target);
+        EXPECT_TRUE(key(c.keyOfPi));
+        openOn(2, c.entering);
+        keyboard->setTarget(c.target); // the keys follow
+        EXPECT_TRUE(rows().ends_with(std::string("trig|units|") + c.wideRow + "|0|.|(; "));
     }
-}
-
-TEST_F(KeyboardLayoutTest, wideKeyboards) {
-    openTablet(0, Orientation::Portrait, 0, 768, 955);
-    EXPECT_EQ(rows(), (Texts{"←|→|+|-|7|8|9|e E", "del|clr|*|/|4|5|6|π", "func|cnst|^|√|1|2|3|=)",
-                             "trig|units|·|·|0|.|("}));
-    openTablet(1, Orientation::LandscapeLeft, 1, 1024, 699);
-    EXPECT_EQ(rows().back(), "trig|units|·|x|0|.|(");
-    keyboard->setTarget(&Model::m().polarR());
-    EXPECT_EQ(rows().back(), "trig|units|·|θ|0|.|(");
-    keyboard->setTarget(&Model::m().constants());
-    EXPECT_EQ(rows().back(), "trig|units|·|·|0|.|(");
-    openTablet(2, Orientation::Portrait, 2, 768, 955);
-    EXPECT_EQ(rows().back(), "trig|units|·|t|0|.|(");
-    openTablet(4, Orientation::Portrait, 0, 768, 955);
-    EXPECT_EQ(rows(), (Texts{"≥|←|→|+|-|7|8|9|e E", ">|del|clr|*|/|4|5|6|π", "≤|func|cnst|^|√|1|2|3|save",
-                             "<|trig|units|x|y|0|.|("}));
-    openTablet(5, Orientation::Portrait, 0, 768, 955);
-    EXPECT_EQ(rows().back(), "trig|units|x|y|0|.|(");
 }
 
 TEST_F(KeyboardLayoutTest, imaginaryUnitSharesTheKeyOfThePoint) {
@@ -106,87 +97,75 @@ TEST_F(KeyboardLayoutTest, imaginaryUnitSharesTheKeyOfThePoint) {
     EXPECT_EQ(entry(), "2+.");
     key(". i")->pressed();
     EXPECT_EQ(entry(), "2+i");
-    openTablet(0, Orientation::Portrait, 0, 768, 955);
-    EXPECT_TRUE(key("."));
-    EXPECT_EQ(rows().back(), "trig|units|·|·|0|.|("); // no key of its own on a wide keyboard either
+    openOn(0, 0);
+    EXPECT_TRUE(rows().ends_with("trig|units|·|·|0|.|(; ")); // no key of its own on a wide keyboard either
 }
 
-TEST_F(KeyboardLayoutTest, framesOnAPhone) {
-    // The grid is 312 by 256 points at (5, 232); its cells are cut to 62 by 42.
-    open();
-    EXPECT_EQ(keyboard->keyboardView().gridFrame(), (Rect{5, 232, 312, 256}));
-    EXPECT_EQ(keyboard->keyboardView().buttonArray().size(), 29U);
-    EXPECT_EQ(frameOf("←"), (Rect{6, 233, 60, 40}));
-    EXPECT_EQ(frameOf("units"), (Rect{6, 443, 60, 40}));
-    EXPECT_EQ(frameOf("("), (Rect{192, 443, 60, 40}));
-    EXPECT_EQ(frameOf("="), (Rect{254, 401, 60, 82}));
-    // Seven rows of 36.
-    open(5, &Model::m().impliedFunctions());
-    EXPECT_EQ(frameOf("x"), (Rect{130, 449, 60, 34}));
-    EXPECT_EQ(frameOf("y"), (Rect{192, 449, 60, 34}));
-    EXPECT_EQ(frameOf("="), (Rect{254, 377, 60, 106}));
-}
-
-TEST_F(KeyboardLayoutTest, framesOnATablet) {
-    openTablet(0, Orientation::Portrait, 0, 768, 955);
-    EXPECT_EQ(frameOf("←"), (Rect{11, 676, 84, 62}));
-    EXPECT_EQ(frameOf("7"), (Rect{410, 676, 84, 62}));
-    EXPECT_EQ(frameOf("="), (Rect{671, 806, 84, 127}));
-    // With five columns at the left the grids are in proportion 5 to 4.
-    openTablet(4, Orientation::Portrait, 0, 768, 955);
-    EXPECT_EQ(frameOf("≥"), (Rect{11, 676, 74, 62}));
-    EXPECT_NEAR(frameOf("7").x, 758 - 698.0 * 4 / 9 + 1, 1e-9);
-}
-
-TEST_F(KeyboardLayoutTest, entryLineByGeometryAndMode) {
-    open();
-    const KeyboardView* view = &keyboard->keyboardView();
-    EXPECT_EQ(view->backingLabel().frame, (Rect{0, 208, 320, 20}));
-    EXPECT_EQ(view->currentEntryLabel().record().frame, (Rect{10, 208, 300, 20}));
-    EXPECT_EQ(view->currentEntryLabel().record().fontSize, 17);
-    EXPECT_EQ(view->displayTableFrame(), (Rect{0, 0, 320, 208}));
-    EXPECT_EQ(view->currentEntryLabel().record().alignment, TextAlignment::Right);
-
-    open(1, &Model::m().equations());
-    view = &keyboard->keyboardView();
-    EXPECT_EQ(view->currentEntryLabel().record().frame, (Rect{15, 0, 290, 90}));
-    EXPECT_EQ(view->currentEntryLabel().record().fontSize, 18);
-    EXPECT_EQ(view->currentEntryLabel().record().lineCount, 4);
-    EXPECT_EQ(view->currentEntryLabel().record().alignment, TextAlignment::Left);
-
-    openTablet(0, Orientation::LandscapeRight, 1, 1024, 699);
-    view = &keyboard->keyboardView();
-    EXPECT_EQ(view->gridFrame(), (Rect{10, 331, 1004, 350}));
-    EXPECT_EQ(view->backingLabel().frame, (Rect{0, 297, 1024, 30}));
-    EXPECT_EQ(view->currentEntryLabel().record().fontSize, 24);
-}
-
-TEST_F(KeyboardLayoutTest, coloursAndFonts) {
-    open();
+TEST_F(KeyboardLayoutTest, frames) {
     const struct {
-        const char* title;
-        const char* colour;
-    } cases[] = {{"+", "a"}, {"7", "b"},    {".", "b"}, {"e", "b"},   {"(", "b"}, {"=", "c"},
-                 {"π", "b"}, {"func", "f"}, {"←", "g"}, {"del", "g"}, {"", "s"},  {"units", "f"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.title);
-        EXPECT_EQ(key(c.title)->appearance().colourClass, c.colour);
-        EXPECT_EQ(key(c.title)->appearance().backgroundImageName, std::string("button") + c.colour);
-        EXPECT_EQ(key(c.title)->appearance().fontSize, 20);
+        int geometry, entering;
+        const char* key;
+        Rect frame;
+    } keys[] = {// The grid is 312 by 256 points at (5, 232); its cells are cut to 62 by 42, of seven rows 36.
+                {4, 0, "←", {6, 233, 60, 40}},
+                {4, 0, "(", {192, 443, 60, 40}},
+                {4, 0, "=", {254, 401, 60, 82}},
+                {3, 5, "x", {130, 449, 60, 34}},
+                {3, 5, "=", {254, 377, 60, 106}},
+                {0, 0, "←", {11, 676, 84, 62}},
+                {0, 0, "7", {410, 676, 84, 62}},
+                {0, 0, "=", {671, 806, 84, 127}},
+                {0, 4, "≥", {11, 676, 74, 62}}, // five columns at the left: 5 to 4
+                {0, 4, "7", {768 - 10 - 698.0 * 4 / 9 + 1, 676, 74, 62}}};
+    for (const auto& c : keys) {
+        openOn(c.geometry, c.entering);
+        Rect frame = key(c.key)->frame();
+        EXPECT_NEAR(frame.x, c.frame.x, 1e-9) << c.key;
+        frame.x = c.frame.x;
+        EXPECT_EQ(frame, c.frame) << c.key;
     }
-    open(4);
-    EXPECT_EQ(key("x π")->appearance().colourClass, "h");
-    EXPECT_EQ(key("y")->appearance().colourClass, "h");
-    EXPECT_EQ(key("≥")->appearance().colourClass, "j");
-    openTablet(5, Orientation::Portrait, 1, 768, 955);
-    EXPECT_EQ(key("y")->appearance().backgroundImageName, "buttonj@2x");
-    EXPECT_EQ(key("π")->appearance().fontSize, 40);
+    const struct {
+        int geometry, entering;
+        Rect grid, backing, entry;
+        double entryFont, keyFont;
+    } lines[] = {{4, 0, {5, 232, 312, 256}, {0, 208, 320, 20}, {10, 208, 300, 20}, 17, 20},
+                 {4, 1, {5, 232, 312, 256}, {0, 0, 320, 90}, {15, 0, 290, 90}, 18, 20},
+                 {3, 4, {5, 232, 312, 256}, {0, 0, 320, 30}, {15, 0, 290, 30}, 28, 23},
+                 {2, 0, {10, 331, 1004, 350}, {0, 297, 1024, 30}, {10, 297, 1004, 30}, 24, 36},
+                 {1, 2, {10, 335, 748, 600}, {0, 0, 768, 180}, {15, 0, 738, 180}, 36, 40},
+                 {0, 5, {10, 675, 748, 260}, {0, 0, 768, 180}, {15, 0, 738, 180}, 30, 30}};
+    for (const auto& c : lines) {
+        SCOPED_TRACE(c.geometry);
+        openOn(c.geometry, c.entering);
+        const KeyboardView& view = keyboard->keyboardView();
+        const LabelRecord& entry = view.currentEntryLabel().record();
+        EXPECT_EQ(view.gridFrame(), c.grid);
+        EXPECT_EQ(view.backingLabel().frame, c.backing);
+        EXPECT_EQ(entry.frame, c.entry);
+        EXPECT_EQ(entry.fontSize, c.entryFont);
+        EXPECT_EQ(entry.lineCount, c.entering == 0 ? 1 : 4);
+        EXPECT_EQ(entry.alignment, c.entering == 0 ? TextAlignment::Right : TextAlignment::Left);
+        EXPECT_EQ(view.displayTableFrame(),
+                  (c.entering == 0 ? Rect{0, 0, c.backing.width, c.backing.y} : Rect{}));
+        EXPECT_EQ(key("7")->appearance().fontSize, c.keyFont);
+    }
+}
 
+TEST_F(KeyboardLayoutTest, colours) {
+    const std::tuple<int, int, const char*, const char*> cases[] = {
+        {4, 0, "a", "+"},    {4, 0, "b", "7"},     {4, 0, "b", "."},    {4, 0, "b", "e"}, {4, 0, "b", "("},
+        {4, 0, "c", "="},    {4, 0, "b", "π"},     {4, 0, "f", "func"}, {4, 0, "g", "←"}, {4, 0, "g", "del"},
+        {4, 0, "s", ""},     {4, 0, "f", "units"}, {4, 4, "h", "x π"},  {4, 4, "h", "y"}, {4, 4, "j", "≥"},
+        {1, 5, "j@2x", "y"}, {1, 5, "h@2x", "π"}};
+    for (const auto& [geometry, entering, image, title] : cases) {
+        openOn(geometry, entering);
+        EXPECT_EQ(key(title)->appearance().backgroundImageName, std::string("button") + image) << title;
+    }
+}
+
+TEST_F(KeyboardLayoutTest, unknownKeysGeometriesAndModes) {
     EXPECT_EQ(colourClass("q", 0), "a");
     EXPECT_TRUE(logHolds("Assertion failure"));
-}
-
-TEST_F(KeyboardLayoutTest, unknownGeometriesAndModesHaveNoKeys) {
     EXPECT_EQ(keyboardLayoutString(5, 0, 0), "");
     EXPECT_EQ(keyboardLayoutString(0, 6, 0), "");
     EXPECT_EQ(keyboardLayoutString(4, -1, 0), "");
@@ -196,21 +175,20 @@ TEST_F(KeyboardLayoutTest, unknownGeometriesAndModesHaveNoKeys) {
 }
 
 TEST_F(KeyboardLayoutTest, rotationAndSettingsRebuildTheKeys) {
-    openTablet(0, Orientation::Portrait, 1, 768, 955);
+    openOn(1, 0);
     press("( 2");
     const int reloads = screen.reloads;
     device.setStatusBarOrientation(Orientation::LandscapeLeft);
     keyboard->willAnimateRotation(Orientation::LandscapeLeft);
     keyboard->keyboardView().setSize(1024, 699);
     keyboard->didRotate(Orientation::Portrait);
-    EXPECT_EQ(rows().front(), "←|→|+|-|7|8|9|e E");
+    EXPECT_TRUE(rows().starts_with("←|→|+|-|7|8|9|e E; "));
     EXPECT_EQ(key("=")->titleString(), ")"); // the line and the tall key's face survive
     EXPECT_GT(screen.reloads, reloads);
 
     device = PlainDevice(DeviceClass::Phone); // a window made small
     keyboard->keyboardView().setSize(320, 499);
-    EXPECT_EQ(rows().front(), "←|→|del|clr|√");
-
+    EXPECT_TRUE(rows().starts_with("←|→|del|clr|√; "));
     const int keyChanges = screen.keyChanges;
     keyboard->viewWillAppear(false);
     EXPECT_EQ(screen.keyChanges, keyChanges); // nothing has changed

@@ -24,8 +24,6 @@
 namespace velmora {
 namespace {
 
-using testing::ElementsAre;
-
 /// A folder for the user's files, and a model as at a first start.
 class ModelArchive : public testing::Test {
 protected:
@@ -55,19 +53,12 @@ void store(ExpressionList& list, int slot, const std::string& line) {
 void fill(Model& model) {
     for (const ModelProperty& property : modelProperties()) {
         const PropertyList before = property.get(model);
-        switch (property.type) {
-        case PropertyType::Boolean:
-            property.set(model, !*before.asBool());
-            break;
-        case PropertyType::Integer: {
-            const auto changed = *before.asInteger() + 1;
-            property.set(model, static_cast<double>(changed) <= property.maximum ? changed : changed - 2);
-            break;
-        }
-        case PropertyType::Number:
-            property.set(model, *before.asDouble() / 3 + 1e-17);
-            break;
-        }
+        const auto next = before.asInteger().value_or(0) + 1;
+        const bool fits = static_cast<double>(next) <= property.maximum;
+        property.set(model, property.type == PropertyType::Boolean ? PropertyList(!*before.asBool())
+                            : property.type == PropertyType::Integer
+                                ? PropertyList(fits ? next : next - 2)
+                                : PropertyList(*before.asDouble() / 3 + 1e-17));
     }
     const std::pair<ExpressionList*, const char*> lists[] = {{&model.equations(), "sin( x ) / "},
                                                              {&model.parametricX(), "cos( t ) + "},
@@ -79,17 +70,40 @@ void fill(Model& model) {
             store(*list, slot, line + std::to_string(slot + 1));
         }
     }
+    const char* const history[] = {"2 + @k7", "1 +", "rand( 9 ) i"};
     for (int slot = 0; slot < 50; ++slot) {
         store(model.constants(), slot, std::to_string(slot % 10) + " / 3");
         model.constants().setNameAtIndex(slot, "name" + std::to_string(slot));
-        model.history().addExpressionTokenArray(tokens(slot % 3 == 0   ? "2 + @k7"
-                                                       : slot % 3 == 1 ? "1 +"
-                                                                       : "rand( 9 ) i"));
+        model.history().addExpressionTokenArray(tokens(history[slot % 3]));
         model.history().entryAtIndex(slot)->keepResult();
     }
     model.impliedFunctions().levelCurveHeightsAtIndex(2)->setHeightAtIndex(0, 1.0 / 3);
     model.inequalityArray()[1].insertToken(Token("x"));
     model.inequalityArray()[1].setInequalityTypeWithToken(Token("≥"));
+}
+
+using Settings = std::map<std::string_view, PropertyList>;
+
+Settings settings() {
+    Settings settings;
+    for (const ModelProperty& property : modelProperties()) {
+        settings.emplace(property.key, property.get(Model::m()));
+    }
+    return settings;
+}
+
+void expectSettings(const Settings& expected) {
+    for (const auto& [key, value] : settings()) {
+        EXPECT_EQ(value, expected.at(key)) << key;
+    }
+}
+
+std::vector<std::string> results() {
+    std::vector<std::string> results;
+    for (int row = 0; row < Model::m().history().nExpressions(); ++row) {
+        results.push_back(Model::m().history().entryAtIndex(row)->resultText());
+    }
+    return results;
 }
 
 TEST_F(ModelArchive, bringsAFullModelBack) {
@@ -99,14 +113,8 @@ TEST_F(ModelArchive, bringsAFullModelBack) {
     Model::m().save();
     SavingRegistry::shared().reset();
     EXPECT_EQ(saves, 1);
-    std::map<std::string, PropertyList> settings;
-    for (const ModelProperty& property : modelProperties()) {
-        settings.emplace(property.key, property.get(Model::m()));
-    }
-    std::vector<std::string> results;
-    for (int row = 0; row < 50; ++row) {
-        results.push_back(Model::m().history().entryAtIndex(row)->resultText());
-    }
+    Settings expected = settings();
+    const std::vector<std::string> shown = results();
     PropertyDictionary saved = *archivedModel(Model::m()).asDictionary();
 
     Model& model = freshModel();
@@ -114,17 +122,13 @@ TEST_F(ModelArchive, bringsAFullModelBack) {
     model.load();
     EXPECT_FALSE(model.trailingZeroes());
     model.setTrailingZeroes(true); // as when the results were noted
-    settings["soundVolume"] = 0.3;
-    settings["iOnMainKeyboard"] = false;
-    settings["displayMode"] = 4;             // this is a phone
-    settings["pickerSelectedUnitIndex"] = 0; // of earlier releases: no longer written
-    settings["nHasBecomeActive"] = *settings["nHasBecomeActive"].asInteger() + 2;
-    for (const ModelProperty& property : modelProperties()) {
-        EXPECT_EQ(property.get(model), settings[std::string(property.key)]) << property.key;
-    }
-    for (int row = 0; row < 50; ++row) {
-        EXPECT_EQ(model.history().entryAtIndex(row)->resultText(), results[static_cast<std::size_t>(row)]);
-    }
+    expected["soundVolume"] = 0.3;
+    expected["iOnMainKeyboard"] = false;
+    expected["displayMode"] = 4;             // this is a phone
+    expected["pickerSelectedUnitIndex"] = 0; // of earlier releases: no longer written
+    expected["nHasBecomeActive"] = *expected["nHasBecomeActive"].asInteger() + 2;
+    expectSettings(expected);
+    EXPECT_EQ(results(), shown);
     EXPECT_EQ(model.constants().fullFunctionNameWithIndex(49), "name49");
     EXPECT_EQ(model.angleModeAsString(), "Degrees");
     saved["nHasBecomeActiveKey"] = model.nHasBecomeActive();
@@ -137,52 +141,42 @@ TEST_F(ModelArchive, bringsAFullModelBack) {
 }
 
 TEST_F(ModelArchive, readsDefaultsForWhatIsAbsentOrUnusable) {
-    struct Row {
-        const char* what;
-        PropertyDictionary archive;
-        const char* property;
-        PropertyList value;
-    };
     const double infinity = std::numeric_limits<double>::infinity();
-    const Row rows[] = {
-        {"nothing", {}, "maxDigitsForDecimalNotation", 9},
-        {"nothing", {}, "displayDigits", 5},
-        {"nothing", {}, "xMaxForGraph", 10.062695924764892},
-        {"nothing", {}, "putLabelsOnGraph", true},
-        {"nothing", {}, "thetaEndForPolarGraph", 6.283185307179586},
-        {"no display mode", {}, "displayMode", 1},
-        {"a phone's", {{"displayModeEnumKey", 4}}, "displayMode", 1},
-        {"the last", {{"displayModeEnumKey", 3}}, "displayMode", 3},
-        {"beyond the last", {{"displayModeEnumKey", 9}}, "displayMode", 1},
-        {"off, not absent", {{"PutLabelsOnGraphKey", false}}, "putLabelsOnGraph", false},
-        {"0, not absent", {{"tEndForParametricGraph", 0.0}}, "tEndForParametricGraph", 0.0},
-        {"a number for a switch", {{"ShakeToResetKey", 0}}, "shakeToResetGraph", true},
-        {"a switch for a number", {{"Angle Mode", true}}, "angleMode", 0},
-        {"a text", {{"displayDigitsKey", "7"}}, "displayDigits", 5},
-        {"out of range", {{"displayDigitsKey", 13}}, "displayDigits", 5},
-        {"out of range", {{"Graph Mode", -1}}, "graphType", 0},
-        {"an infinite end",
-         {{"thetaEndForPolarGraph", infinity}},
-         "thetaEndForPolarGraph",
-         6.283185307179586},
-        {"one bound", {{"xMinForGraphKey", 2.0}}, "xMaxForGraph", 2 + 1e-9},
-        {"one bound", {{"xMinForGraphKey", 2.0}}, "yMinForGraph", 0.0},
-        {"not the first", {{"xMaxForGraphKey", 2.0}}, "xMaxForGraph", 10.062695924764892},
-        {"no number", {{"xMinForGraphKey", 2.0}, {"yMaxForGraphKey", infinity}}, "xMinForGraph", -10.0},
-        {"the letter i", {{"iOnMainKeyboard", true}}, "iOnMainKeyboard", false},
-        {"an earlier release", {{"PickerSelectedUnitIndex", -3}}, "pickerSelectedUnitIndex", 0},
-        {"too many activations",
-         {{"nHasBecomeActiveKey", std::int64_t{1} << 40}},
-         "nHasBecomeActive",
-         std::numeric_limits<int>::max()},
-    };
+    constexpr int kMost = std::numeric_limits<int>::max();
+    const std::tuple<PropertyDictionary, const char*, PropertyList> rows[] = {
+        {{}, "displayMode", 1},
+        {{{"displayModeEnumKey", 4}}, "displayMode", 1}, // a phone's
+        {{{"displayModeEnumKey", 3}}, "displayMode", 3},
+        {{{"displayModeEnumKey", 9}}, "displayMode", 1},
+        {{{"PutLabelsOnGraphKey", false}}, "putLabelsOnGraph", false}, // not absent
+        {{{"tEndForParametricGraph", 0.0}}, "tEndForParametricGraph", 0.0},
+        {{{"ShakeToResetKey", 0}}, "shakeToResetGraph", true}, // of another type
+        {{{"Angle Mode", true}}, "angleMode", 0},
+        {{{"displayDigitsKey", "7"}}, "displayDigits", 5},
+        {{{"displayDigitsKey", 13}}, "displayDigits", 5}, // out of range
+        {{{"Graph Mode", -1}}, "graphType", 0},
+        {{{"thetaEndForPolarGraph", infinity}}, "thetaEndForPolarGraph", 6.283185307179586},
+        {{{"xMinForGraphKey", 2.0}}, "xMaxForGraph", 2 + 1e-9}, // one bound of four
+        {{{"xMinForGraphKey", 2.0}}, "yMinForGraph", 0.0},
+        {{{"xMaxForGraphKey", 2.0}}, "xMaxForGraph", 10.062695924764892},
+        {{{"xMinForGraphKey", 2.0}, {"yMaxForGraphKey", infinity}}, "xMinForGraph", -10.0},
+        {{{"iOnMainKeyboard", true}}, "iOnMainKeyboard", false},
+        {{{"PickerSelectedUnitIndex", -3}}, "pickerSelectedUnitIndex", 0},
+        {{{"nHasBecomeActiveKey", std::int64_t{1} << 40}}, "nHasBecomeActive", kMost}};
     PlainDevice tablet(DeviceClass::Tablet);
     const DeviceScope scope(tablet);
-    for (const Row& row : rows) {
-        EXPECT_EQ(loaded(row.archive).valueForKey(row.property), row.value)
-            << row.what << " " << row.property;
+    for (const auto& [archive, property, value] : rows) {
+        EXPECT_EQ(loaded(archive).valueForKey(property), value) << property;
         EXPECT_EQ(Model::m().inequalityArray().size(), 4U);
     }
+    freshModel();
+    Settings first = settings();
+    fill(Model::m());
+    for (const char* notOfALoad : {"trailingZeroes", "nHasBecomeActive"}) {
+        first[notOfALoad] = *Model::m().valueForKey(notOfALoad);
+    }
+    loadArchivedModel(Model::m(), PropertyList());
+    expectSettings(first);
     const PropertyArray rowsOfAnEarlierRelease{1, 2};
     loaded({{"SelectedUnitConverterPickerRows", rowsOfAnEarlierRelease}});
     EXPECT_EQ(Model::m().selectedUnitConverterPickerRows(), rowsOfAnEarlierRelease);
@@ -221,23 +215,21 @@ TEST_F(ModelArchive, survivesEveryFlippedBitAndEveryTruncation) {
     const PropertyData bytes = binaryPropertyList(small);
     ASSERT_GT(bytes.size(), 1800U);
     int understood = 0;
-    for (std::size_t bit = 0; bit < bytes.size() * 8; ++bit) {
-        PropertyData flipped = bytes;
-        flipped[bit / 8] ^= static_cast<std::uint8_t>(1U << bit % 8);
-        if (const auto archive = readPropertyList(flipped)) {
-            loadArchivedModel(Model::m(), *archive);
-            if (bit % 64 == 0) {
-                EXPECT_FALSE(binaryPropertyList(archivedModel(Model::m())).empty());
-            }
-            ++understood;
+    const auto load = [&](const PropertyData& damaged) {
+        const auto archive = readPropertyList(damaged);
+        understood += archive ? 1 : 0;
+        loadArchivedModel(Model::m(), archive.value_or(PropertyList()));
+    };
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        load(PropertyData(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(i)));
+        for (unsigned bit = 0; bit < 8; ++bit) {
+            PropertyData flipped = bytes;
+            flipped[i] ^= static_cast<std::uint8_t>(1U << bit);
+            load(flipped);
         }
+        EXPECT_FALSE(binaryPropertyList(archivedModel(Model::m())).empty());
     }
     EXPECT_GT(understood, 1000);
-    for (std::size_t length = 0; length < bytes.size(); ++length) {
-        const auto archive = readPropertyList(
-            PropertyData(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(length)));
-        loadArchivedModel(Model::m(), archive.value_or(PropertyList()));
-    }
 }
 
 TEST_F(ModelArchive, aKilledProgramLeavesTheOldStateOrTheNew) {

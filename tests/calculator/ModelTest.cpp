@@ -17,65 +17,44 @@ namespace {
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST_F(ModelTest, firstStart) {
-    const std::map<std::string, PropertyList> defaults{
-        {"maxDigitsForDecimalNotation", 9},
-        {"displayDigits", 5},
-        {"trailingZeroes", false},
-        {"commasInNumbers", false},
-        {"soundIsOn", false},
-        {"soundVolume", 0.3},
-        {"angleMode", 0},
-        {"roundSmallPartsOfComplexNumbers", true},
-        {"iOnMainKeyboard", false},
-        {"whichKeyboard", 0},
-        {"largeFontsOnPhone", false},
-        {"displayMode", 4},
-        {"orientationMode", 0},
-        {"xMinForGraph", -10.0},
-        {"xMaxForGraph", 10.062695924764892},
-        {"yMinForGraph", -10.0},
-        {"yMaxForGraph", 10.0},
-        {"tStartForParametricGraph", 0.0},
-        {"tEndForParametricGraph", 1.0},
-        {"thetaStartForPolarGraph", 0.0},
-        {"thetaEndForPolarGraph", 2 * std::acos(-1.0)},
-        {"graphType", 0},
-        {"graphGridLineType", 0},
-        {"graphBackgroundIsBlack", false},
-        {"putLabelsOnGraph", true},
-        {"shakeToResetGraph", true},
-        {"sameScaleXAndY", false},
-        {"unitConverterIsPushed", false},
-        {"settingsHaveBeenAccessed", false},
-        {"nHasBecomeActive", 0},
-        {"pickerSelectedUnitIndex", 0},
-    };
-    EXPECT_EQ(modelProperties().size(), defaults.size());
-    for (const auto& [key, value] : defaults) {
-        SCOPED_TRACE(key);
-        EXPECT_EQ(Model::m().valueForKey(key), value);
-    }
-    EXPECT_EQ(Model::m().inequalityArray().size(), 4U);
-    EXPECT_FALSE(Model::m().unitConverterArray());
-}
-
-TEST_F(ModelTest, lists) {
+    using Names = std::vector<const char*>;
     Model& model = Model::m();
-    const struct {
-        ExpressionList& list;
-        int entries;
-        int capacity;
-        const char* lastName;
-    } cases[] = {
-        {model.equations(), 4, 4, "y4(x)"},           {model.parametricX(), 4, 4, "x4(t)"},
-        {model.parametricY(), 4, 4, "y4(t)"},         {model.polarR(), 4, 4, "r4(θ)"},
-        {model.impliedFunctions(), 4, 4, "f4(x, y)"}, {model.constants(), 50, 50, "k50"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.lastName);
-        EXPECT_EQ(c.list.nExpressions(), c.entries);
-        EXPECT_EQ(c.list.maxExpressions(), c.capacity);
-        EXPECT_EQ(c.list.fullFunctionNameWithIndex(c.entries - 1), c.lastName);
+    const std::pair<PropertyList, Names> defaults[] = {
+        {0,
+         {"angleMode", "whichKeyboard", "orientationMode", "graphType", "graphGridLineType",
+          "nHasBecomeActive", "pickerSelectedUnitIndex"}},
+        {false,
+         {"trailingZeroes", "commasInNumbers", "soundIsOn", "iOnMainKeyboard", "largeFontsOnPhone",
+          "graphBackgroundIsBlack", "sameScaleXAndY", "unitConverterIsPushed", "settingsHaveBeenAccessed"}},
+        {true, {"roundSmallPartsOfComplexNumbers", "putLabelsOnGraph", "shakeToResetGraph"}},
+        {4, {"displayMode"}},
+        {5, {"displayDigits"}},
+        {9, {"maxDigitsForDecimalNotation"}},
+        {0.0, {"tStartForParametricGraph", "thetaStartForPolarGraph"}},
+        {0.3, {"soundVolume"}},
+        {1.0, {"tEndForParametricGraph"}},
+        {2 * std::acos(-1.0), {"thetaEndForPolarGraph"}},
+        {-10.0, {"xMinForGraph", "yMinForGraph"}},
+        {10.0, {"yMaxForGraph"}},
+        {10.062695924764892, {"xMaxForGraph"}}};
+    std::size_t count = 0;
+    for (const auto& [value, keys] : defaults) {
+        for (const char* key : keys) {
+            EXPECT_EQ(model.valueForKey(key), value) << key;
+            ++count;
+        }
+    }
+    EXPECT_EQ(modelProperties().size(), count);
+    EXPECT_EQ(model.inequalityArray().size(), 4U);
+    EXPECT_FALSE(model.unitConverterArray());
+    const std::tuple<ExpressionList*, int, const char*> lists[] = {
+        {&model.equations(), 4, "y4(x)"},           {&model.parametricX(), 4, "x4(t)"},
+        {&model.parametricY(), 4, "y4(t)"},         {&model.polarR(), 4, "r4(θ)"},
+        {&model.impliedFunctions(), 4, "f4(x, y)"}, {&model.constants(), 50, "k50"}};
+    for (const auto& [list, entries, lastName] : lists) {
+        EXPECT_EQ(list->nExpressions(), entries) << lastName;
+        EXPECT_EQ(list->maxExpressions(), entries) << lastName;
+        EXPECT_EQ(list->fullFunctionNameWithIndex(entries - 1), lastName);
     }
     EXPECT_EQ(model.history().nExpressions(), 0);
     EXPECT_EQ(model.history().maxExpressions(), 50);
@@ -88,33 +67,27 @@ TEST_F(ModelTest, everyPropertyTakesAValueAndRefusesOthers) {
         const std::string key(property.key);
         SCOPED_TRACE(key);
         const PropertyList before = model.valueForKey(key).value();
+        PropertyList wrong(std::numeric_limits<double>::infinity());
+        PropertyList other(0.75);
+        PropertyList again = before;
+        if (property.type == PropertyType::Boolean) {
+            wrong = 2;
+            other = !before.asBool().value();
+            again = before.asBool().value() ? 1 : 0; // a segment's index
+        } else if (property.type == PropertyType::Integer) {
+            wrong = static_cast<int>(property.minimum) - 1;
+            other = static_cast<int>(property.minimum) + (before.asInteger() == 0 ? 1 : 0);
+            EXPECT_FALSE(model.setValueForKey(key, 0.5));
+        }
         EXPECT_FALSE(model.setValueForKey(key, "text"));
         EXPECT_FALSE(model.setValueForKey(key, kNaN));
-        switch (property.type) {
-        case PropertyType::Boolean:
-            EXPECT_FALSE(model.setValueForKey(key, 2));
-            EXPECT_TRUE(model.setValueForKey(key, !before.asBool().value()));
-            EXPECT_NE(model.valueForKey(key), before);
-            EXPECT_TRUE(model.setValueForKey(key, before.asBool().value() ? 1 : 0)); // a segment's index
-            EXPECT_EQ(model.valueForKey(key), before);
-            break;
-        case PropertyType::Integer: {
-            const auto other = static_cast<int>(property.minimum) + (before.asInteger() == 0 ? 1 : 0);
-            EXPECT_FALSE(model.setValueForKey(key, static_cast<int>(property.minimum) - 1));
-            EXPECT_FALSE(model.setValueForKey(key, 0.5));
-            EXPECT_TRUE(model.setValueForKey(key, other));
-            if (key != "pickerSelectedUnitIndex") { // no units yet, so it reads as none
-                EXPECT_EQ(model.valueForKey(key), PropertyList(other));
-            }
-            break;
+        EXPECT_FALSE(model.setValueForKey(key, wrong));
+        EXPECT_TRUE(model.setValueForKey(key, other));
+        if (key != "pickerSelectedUnitIndex") { // no units yet, so it reads as none
+            EXPECT_EQ(model.valueForKey(key), other);
         }
-        case PropertyType::Number:
-            EXPECT_FALSE(model.setValueForKey(key, std::numeric_limits<double>::infinity()));
-            EXPECT_TRUE(model.setValueForKey(key, 0.75));
-            EXPECT_EQ(model.valueForKey(key), PropertyList(0.75));
-            model.setValueForKey(key, before);
-            break;
-        }
+        EXPECT_TRUE(model.setValueForKey(key, again));
+        EXPECT_EQ(model.valueForKey(key), before);
     }
     EXPECT_FALSE(model.setValueForKey("graphType", 3));
     EXPECT_FALSE(model.setValueForKey("noSuchKey", 1));
@@ -123,22 +96,18 @@ TEST_F(ModelTest, everyPropertyTakesAValueAndRefusesOthers) {
 
 TEST_F(ModelTest, maximumIsRepairedWhenRead) {
     Model& model = Model::m();
-    const struct {
-        double minimum, maximum, read;
-    } cases[] = {
-        {-1, 1, 1},      {3, -2, 3 + 1e-9}, {5, 5, 5 + 1e-9},
-        {0, 1e-9, 1e-9}, {0, 0.5e-9, 1e-9}, {1e300, 0, 1e300},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.maximum);
-        model.setXMinForGraph(c.minimum);
-        model.setXMaxForGraph(c.maximum);
-        model.setYMinForGraph(c.minimum);
-        model.setYMaxForGraph(c.maximum);
-        EXPECT_EQ(model.xMaxForGraph(), c.read);
-        EXPECT_EQ(model.yMaxForGraph(), c.read);
+    const std::tuple<double, double, double> cases[] = {{-1, 1, 1},        {3, -2, 3 + 1e-9},
+                                                        {5, 5, 5 + 1e-9},  {0, 1e-9, 1e-9},
+                                                        {0, 0.5e-9, 1e-9}, {1e300, 0, 1e300}};
+    for (const auto& [minimum, maximum, read] : cases) {
+        model.setXMinForGraph(minimum);
+        model.setXMaxForGraph(maximum);
+        model.setYMinForGraph(minimum);
+        model.setYMaxForGraph(maximum);
+        EXPECT_EQ(model.xMaxForGraph(), read);
+        EXPECT_EQ(model.yMaxForGraph(), read);
         model.setXMinForGraph(-1e9); // the repair was stored, so a later minimum does not undo it
-        EXPECT_EQ(model.xMaxForGraph(), c.read);
+        EXPECT_EQ(model.xMaxForGraph(), read);
     }
     model.setXMinForGraph(kNaN);
     model.setXMaxForGraph(-7);
@@ -153,25 +122,17 @@ TEST_F(ModelTest, maximumIsRepairedWhenRead) {
 
 TEST_F(ModelTest, geometryFollowsDeviceAndSettings) {
     using enum Orientation;
+    using enum DeviceClass;
     const struct {
         DeviceClass deviceClass;
         Orientation orientation;
         bool largeFonts;
-        int storedDisplayMode;
-        int displayMode;
-        int geometry;
-        int fontSizeMode;
-    } cases[] = {
-        {DeviceClass::Phone, Portrait, false, 0, 4, 4, 0},
-        {DeviceClass::Phone, LandscapeLeft, true, 2, 4, 3, 1},
-        {DeviceClass::Tablet, Portrait, true, 0, 0, 0, 2},
-        {DeviceClass::Tablet, PortraitUpsideDown, false, 1, 1, 1, 3},
-        {DeviceClass::Tablet, Portrait, false, 2, 2, 0, 2},
-        {DeviceClass::Tablet, Portrait, false, 3, 3, 1, 3},
-        {DeviceClass::Tablet, Portrait, false, 4, 1, 1, 3},
-        {DeviceClass::Tablet, LandscapeLeft, false, 0, 0, 2, 3},
-        {DeviceClass::Tablet, LandscapeRight, false, 1, 1, 2, 3},
-    };
+        int storedDisplayMode, displayMode, geometry, fontSizeMode;
+    } cases[] = {{Phone, Portrait, false, 0, 4, 4, 0},       {Phone, LandscapeLeft, true, 2, 4, 3, 1},
+                 {Tablet, Portrait, true, 0, 0, 0, 2},       {Tablet, PortraitUpsideDown, false, 1, 1, 1, 3},
+                 {Tablet, Portrait, false, 2, 2, 0, 2},      {Tablet, Portrait, false, 3, 3, 1, 3},
+                 {Tablet, Portrait, false, 4, 1, 1, 3},      {Tablet, LandscapeLeft, false, 0, 0, 2, 3},
+                 {Tablet, LandscapeRight, false, 1, 1, 2, 3}};
     for (const auto& c : cases) {
         device = PlainDevice(c.deviceClass, c.orientation);
         Model::m().setLargeFontsOnPhone(c.largeFonts);
@@ -197,40 +158,32 @@ TEST_F(ModelTest, programmingFaultsAreLoggedAndFallBack) {
 }
 
 TEST_F(ModelTest, orientations) {
-    const struct {
-        int mode;
-        bool portrait, landscape;
-    } cases[] = {{0, true, false}, {1, false, true}, {2, true, true}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.mode);
-        Model::m().setOrientationMode(c.mode);
+    using enum Orientation;
+    const Model& model = Model::m();
+    for (const int mode : {0, 1, 2}) {
+        Model::m().setOrientationMode(mode);
         device.setDeviceClass(DeviceClass::Tablet);
-        EXPECT_EQ(Model::m().shouldAutorotateToInterfaceOrientation(Orientation::PortraitUpsideDown),
-                  c.portrait);
-        EXPECT_EQ(Model::m().shouldAutorotateToInterfaceOrientation(Orientation::LandscapeLeft), c.landscape);
+        EXPECT_EQ(model.shouldAutorotateToInterfaceOrientation(PortraitUpsideDown), mode != 1) << mode;
+        EXPECT_EQ(model.shouldAutorotateToInterfaceOrientation(LandscapeLeft), mode != 0) << mode;
         device.setDeviceClass(DeviceClass::Phone);
-        EXPECT_TRUE(Model::m().shouldAutorotateToInterfaceOrientation(Orientation::Portrait));
-        EXPECT_FALSE(Model::m().shouldAutorotateToInterfaceOrientation(Orientation::LandscapeRight));
+        EXPECT_TRUE(model.shouldAutorotateToInterfaceOrientation(Portrait));
+        EXPECT_FALSE(model.shouldAutorotateToInterfaceOrientation(LandscapeRight));
     }
 }
 
 TEST_F(ModelTest, settingsTipAtEveryTwentiethActivation) {
-    for (const int count : {0, 1, 19, 20, 21, 40}) {
-        SCOPED_TRACE(count);
+    for (const auto& [count, shows] : {std::pair{0, true}, {1, false}, {19, false}, {20, true}, {40, true}}) {
         Model::m().setNHasBecomeActive(count);
-        EXPECT_EQ(Model::m().shouldShowSettingsTip(), count == 0 || count == 20 || count == 40);
+        EXPECT_EQ(Model::m().shouldShowSettingsTip(), shows) << count;
     }
-    Model::m().setSettingsHaveBeenAccessed(true);
-    EXPECT_FALSE(Model::m().shouldShowSettingsTip());
 }
 
 TEST_F(ModelTest, explainsWhyNothingIsDrawn) {
     Model& model = Model::m();
-    EXPECT_TRUE(model.explainFailureToGraph());
-    model.equations().setExpressionAtIndex(3, ExpressionWithTokenArray(tokens("2 +")), true);
-    EXPECT_TRUE(model.explainFailureToGraph());
-    model.equations().setExpressionAtIndex(1, ExpressionWithTokenArray(tokens("x")), true);
-    EXPECT_FALSE(model.explainFailureToGraph());
+    for (const auto& [line, explains] : {std::pair{"", true}, {"2 +", true}, {"x", false}}) {
+        model.equations().setExpressionAtIndex(3, ExpressionWithTokenArray(tokens(line)), true);
+        EXPECT_EQ(model.explainFailureToGraph(), explains) << line;
+    }
     model.equations().reset();
     EXPECT_TRUE(model.explainFailureToGraph());
     model.setGraphType(1);
@@ -286,15 +239,12 @@ TEST_F(ModelTest, graphTypeChoosesTheEditorOfTheSecondTab) {
     const auto first = model.currentEquationsViewController();
     EXPECT_EQ(first->className(), "EquationsViewController");
     EXPECT_EQ(model.currentEquationsViewController(), first);
-
     const auto bar = std::make_shared<TabBarController>();
     const auto editors = std::make_shared<NavigationController>(first);
     const auto above = std::make_shared<OtherScreen>();
     editors->push(above);
-    bar->setViewControllers(
-        {std::make_shared<NavigationController>(std::make_shared<OtherScreen>()), editors});
+    bar->setViewControllers({std::make_shared<NavigationController>(above), editors});
     model.setTabBarController(bar);
-
     model.setGraphType(0);
     EXPECT_EQ(editors->rootViewController(), first); // no change of type
     model.setGraphType(1);

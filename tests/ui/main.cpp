@@ -1,6 +1,9 @@
 #include <QGuiApplication>
+#include <QLocale>
 
 #include <gtest/gtest.h>
+
+#include <clocale>
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
@@ -13,5 +16,8 @@ int main(int argc, char** argv) {
     }
     QGuiApplication::setApplicationName(QStringLiteral("velmora-tests"));
     const QGuiApplication application(argc, argv);
+    // A language that writes numbers another way; the program must not follow it.
+    QLocale::setDefault(QLocale(QLocale::German));
+    std::setlocale(LC_NUMERIC, "de_DE.UTF-8"); // where the machine has it
     return RUN_ALL_TESTS();
 }

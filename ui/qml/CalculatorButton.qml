@@ -13,8 +13,9 @@ Item {
     required property url face
     required property url pressedFace
     required property url sign
+    required property bool chosen
     required property string spokenName
-    readonly property bool down: tap.pressed && contains(tap.point.position)
+    readonly property bool down: chosen || tap.pressed && contains(tap.point.position)
 
     signal pressed()
 
@@ -29,6 +30,7 @@ Item {
     Accessible.role: Accessible.Button
     Accessible.name: spokenName
     Accessible.focusable: true
+    Accessible.checked: chosen
     Accessible.onPressAction: pressed()
 
     ArtworkImage {
@@ -37,7 +39,7 @@ Item {
     }
     Text {
         anchors { fill: parent; leftMargin: 3; rightMargin: 3 }
-        text: root.title
+        text: root.sign == "" ? root.title : ""
         font: root.titleFont
         color: root.titleColor
         horizontalAlignment: Text.AlignHCenter

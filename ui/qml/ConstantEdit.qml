@@ -14,7 +14,8 @@ FocusScope {
         color: Theme.background
     }
     Column {
-        anchors { left: parent.left; right: parent.right; top: parent.top; topMargin: 20 }
+        width: Math.min(parent.width, 640)
+        anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: 20 }
         TextFieldRow {
             width: parent.width
             title: qsTr("Name")

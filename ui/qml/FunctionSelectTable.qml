@@ -19,6 +19,7 @@ FocusScope {
         width: Math.min(parent.width, 640)
         height: parent.height
         x: (parent.width - width) / 2
+        topMargin: width < parent.width ? 20 : 0 // there it is a sheet of its own
         focus: true
         model: root.screen
         keyNavigationEnabled: true

@@ -40,6 +40,7 @@ Item {
     }
     TapHandler {
         acceptedButtons: Qt.RightButton
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad // a finger has no buttons to tell apart
         onTapped: root.held()
     }
 }

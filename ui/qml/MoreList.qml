@@ -15,7 +15,10 @@ FocusScope {
     }
     Table {
         id: table
-        anchors.fill: parent
+        width: Math.min(parent.width, 640)
+        height: parent.height
+        x: (parent.width - width) / 2
+        topMargin: width < parent.width ? 20 : 0
         focus: true
         model: root.screen
         Accessible.name: qsTr("More")
