@@ -12,6 +12,7 @@ packages_build=(
     pkg-config
     qt6-base-dev
     qt6-declarative-dev
+    qt6-sensors-dev
 )
 
 # What the program loads while it runs, and the fonts of its scenes.
@@ -20,6 +21,7 @@ packages_run=(
     fonts-inter
     libasound2
     libgl1-mesa-dri
+    libqt6sensors6
     libqt6svg6
     qml6-module-qtqml
     qml6-module-qtqml-workerscript

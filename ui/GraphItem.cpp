@@ -40,6 +40,12 @@ GraphItem::GraphItem(QQuickItem* parent) : DevicePixelItem(parent) {
     setActiveFocusOnTab(true);
     setAcceptTouchEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
+    connect(&m_shakes, &ShakeSensor::shaken, this, [this] {
+        if (m_controller) {
+            m_controller->graphView().motionEnded();
+        }
+    });
+    m_shakes.setActive(isVisible());
 }
 
 GraphItem::~GraphItem() {
@@ -61,6 +67,13 @@ void GraphItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeome
         m_controller->graphView().setSize({newGeometry.width(), newGeometry.height()});
     }
     DevicePixelItem::geometryChange(newGeometry, oldGeometry);
+}
+
+void GraphItem::itemChange(ItemChange change, const ItemChangeData& data) {
+    if (change == ItemVisibleHasChanged) {
+        m_shakes.setActive(data.boolValue);
+    }
+    DevicePixelItem::itemChange(change, data);
 }
 
 void GraphItem::paint(QPainter& painter) {

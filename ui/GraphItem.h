@@ -5,12 +5,13 @@
 #include "platform/TapCounter.h"
 #include "ui/DevicePixelItem.h"
 #include "ui/GraphAdapter.h"
+#include "ui/ShakeSensor.h"
 
 #include <QPointer>
 
 namespace velmora {
 
-/// Paints the graph with its labels, and hands fingers, mouse and wheel to its controller.
+/// Paints the graph with its labels, and hands fingers, mouse, wheel and shakes to its controller.
 class GraphItem : public DevicePixelItem, public GraphPicture {
     Q_OBJECT
     QML_ELEMENT
@@ -29,6 +30,7 @@ public:
 protected:
     void paint(QPainter& painter) override;
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
     void touchEvent(QTouchEvent* event) override;
     void touchUngrabEvent() override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -44,6 +46,7 @@ private:
     std::shared_ptr<GraphViewController> m_controller;
     Subscription m_redraws;
     TapCounter m_taps;
+    ShakeSensor m_shakes;
 };
 
 } // namespace velmora
