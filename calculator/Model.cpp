@@ -162,6 +162,7 @@ void Model::setGraphType(int type) {
         return;
     }
     m_graphType = type;
+    m_graphTypeChanged.emit();
     const auto tabBar = m_tabBarController.lock();
     if (!tabBar || tabBar->viewControllers().size() <= kEquationsTab) {
         return;

@@ -8,6 +8,7 @@
 #include "platform/Device.h"
 #include "platform/PropertyList.h"
 #include "platform/SettingsTargetRegistry.h"
+#include "platform/Signal.h"
 
 #include <filesystem>
 #include <memory>
@@ -123,6 +124,7 @@ public:
     int graphType() const { return m_graphType; }
     /// On a change the equation editor at the root of the second tab is exchanged, while a tab bar is set.
     void setGraphType(int type);
+    Signal<>& graphTypeChanged() { return m_graphTypeChanged; }
     int graphGridLineType() const { return m_graphGridLineType; }
     void setGraphGridLineType(int type) { m_graphGridLineType = type; }
     bool graphBackgroundIsBlack() const { return m_graphBackgroundIsBlack; }
@@ -223,6 +225,7 @@ private:
     bool m_settingsHaveBeenAccessed = false;
     int m_nHasBecomeActive = 0;
 
+    Signal<> m_graphTypeChanged;
     std::optional<int> m_editorGraphType; // of the editor kept below
     std::shared_ptr<ViewController> m_equationsEditor;
     std::weak_ptr<TabBarController> m_tabBarController;

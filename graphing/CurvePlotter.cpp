@@ -77,7 +77,7 @@ bool CurvePlotter::isWorthHalving(double y1, double y2) const {
     return (y1 < 0 && y2 > h) || (y2 < 0 && y1 > h);
 }
 
-void CurvePlotter::halve(const Task& task) {
+void CurvePlotter::investigate(const Task& task) {
     const Sample& from = task.from;
     const Sample& to = task.to;
     if (!isWorthHalving(from.screenY, to.screenY)) {
@@ -125,7 +125,7 @@ bool CurvePlotter::refine(double deadline) {
                 {{task.from.screenX, task.from.screenY}, {task.to.screenX, task.to.screenY}});
             continue;
         }
-        halve(task);
+        investigate(task);
         if (++steps < stepsBetweenLooks) {
             continue;
         }

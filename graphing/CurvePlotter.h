@@ -47,7 +47,7 @@ private:
     };
 
     float screenYOf(double value) const;
-    void halve(const Task& task);
+    void investigate(const Task& task);
     void finishWithoutHalving();
     bool isWorthHalving(double y1, double y2) const;
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr double kSliceSeconds = 0.008; // of halving between two events
 constexpr double kRestSeconds = 0.2;    // without a change, until halving goes on
+constexpr double kWideView = 500;       // points, beyond which lines are wider and numbers larger
 constexpr int kDegrees = 1;
 constexpr int kFarApartGridLines = 1;
 
@@ -29,11 +30,10 @@ void drawLine(DrawingContext& context, Point from, Point to) {
 } // namespace
 
 void GraphView::setSize(Size size) {
-    const int width = static_cast<int>(size.width);
-    const int height = static_cast<int>(size.height);
-    if (width != m_viewport.width || height != m_viewport.height) {
-        m_viewport.width = width;
-        m_viewport.height = height;
+    if (size != m_size) {
+        m_size = size;
+        m_viewport.width = static_cast<int>(size.width);
+        m_viewport.height = static_cast<int>(size.height);
         setNeedsDisplay();
     }
 }
@@ -55,18 +55,21 @@ void GraphView::storeBoundsInModel() {
 }
 
 void GraphView::matchXAndYScales() {
-    if (!m_viewport.isUsable()) {
+    if (m_viewport.width <= 0 || m_viewport.height <= 0) {
         return;
     }
     storeBoundsInModel();
-    const double range = m_viewport.xMax - m_viewport.xMin;
+    Model& model = Model::m();
+    const double range = model.xMaxForGraph() - model.xMinForGraph();
     const float shape = static_cast<float>(m_viewport.height) / static_cast<float>(m_viewport.width);
     double matching = static_cast<float>(range) * shape;
     if (!std::isnormal(static_cast<float>(matching))) {
         matching = range * shape; // ranges that single precision cannot hold
     }
-    Model& model = Model::m();
-    model.setYMaxForGraph(model.yMinForGraph() + matching);
+    const double yMax = model.yMinForGraph() + matching;
+    if (std::isfinite(yMax) && yMax > model.yMinForGraph()) {
+        model.setYMaxForGraph(yMax);
+    }
     readBoundsFromModel();
 }
 
@@ -105,12 +108,41 @@ void GraphView::motionEnded() {
 
 void GraphView::setTraceMode(TraceMode mode) {
     m_traceMode = mode;
+    m_graphTypeChanges =
+        isTracing() ? Model::m().graphTypeChanged().subscribe([this] { setTraceMode(TraceMode::None); })
+                    : Subscription();
     setNeedsDisplay();
 }
 
 void GraphView::setScreenXForTracing(float x) {
     m_screenXForTracing = x;
     setNeedsDisplay();
+}
+
+void GraphView::traceGraphWithSortedTouches(const Touches& touches) {
+    if (!touches.empty()) {
+        setScreenXForTracing(static_cast<float>(touches.front().location.x));
+    }
+}
+
+void GraphView::stepTrace(int direction) {
+    if (m_traceMode == TraceMode::JustTrace) {
+        setScreenXForTracing(m_screenXForTracing + static_cast<float>(direction));
+        return;
+    }
+    constexpr float step = 5;     // points; the search itself looks further to either side
+    constexpr double apart = 0.5; // points from which on it is another result
+    const auto width = static_cast<float>(m_viewport.width);
+    float place = m_screenXForTracing + static_cast<float>(direction) * step;
+    for (; place >= 0 && place <= width; place += static_cast<float>(direction) * step) {
+        const auto found = tracedAbscissa(m_traceMode, Model::m().equations(), m_viewport,
+                                          m_viewport.coordXWithScreenX(place));
+        const float there = found ? m_viewport.screenCoordWithCoord(*found, false) : m_screenXForTracing;
+        if ((there - m_screenXForTracing) * static_cast<float>(direction) > apart) {
+            setScreenXForTracing(there);
+            return;
+        }
+    }
 }
 
 bool GraphView::graphBackgroundIsBlack() const { return Model::m().graphBackgroundIsBlack(); }
@@ -125,7 +157,9 @@ Color GraphView::gridlineColor() const {
     return graphBackgroundIsBlack() ? Color::white(1, alphaOnBlack) : Color::white(0, alphaOnWhite);
 }
 
-double GraphView::axisWidth() const { return m_viewport.width > kWideView ? 2 : 1; }
+bool GraphView::isWide() const { return m_size.width > kWideView; }
+
+double GraphView::axisWidth() const { return isWide() ? 2 : 1; }
 
 void GraphView::setNeedsDisplay() {
     m_frameIsCurrent = false;
@@ -156,10 +190,6 @@ void GraphView::drawRect(DrawingContext& context) {
 }
 
 void GraphView::computeFrame() {
-    if (Model::m().graphType() != m_graphType) {
-        m_graphType = Model::m().graphType();
-        m_traceMode = TraceMode::None;
-    }
     if (Model::m().sameScaleXAndY()) {
         matchXAndYScales();
     }
@@ -178,11 +208,11 @@ void GraphView::computeAxes() {
     const Model& model = Model::m();
     const bool oneLinePerMark = model.graphGridLineType() == kFarApartGridLines;
     const auto upward = HashMarkSpacing::chosenFor(m_viewport.yMin, m_viewport.yMax, oneLinePerMark);
-    m_axes.vertical = HashMarks::along(true, m_viewport, upward, axisColor());
+    m_axes.vertical = HashMarks::along(true, m_viewport, upward, isWide(), hashmarkColor());
     const auto across = model.sameScaleXAndY() && upward.hashmarkSpacing > 0
                             ? upward
                             : HashMarkSpacing::chosenFor(m_viewport.xMin, m_viewport.xMax, oneLinePerMark);
-    m_axes.horizontal = HashMarks::along(false, m_viewport, across, axisColor());
+    m_axes.horizontal = HashMarks::along(false, m_viewport, across, isWide(), hashmarkColor());
     for (const HashMarks* marks : {&m_axes.vertical, &m_axes.horizontal}) {
         m_hashMarkLabels.insert(m_hashMarkLabels.end(), marks->labels.begin(), marks->labels.end());
     }
@@ -208,8 +238,8 @@ void GraphView::computeCurves() {
             if (const auto radius = model.polarR().expression(static_cast<int>(slot))) {
                 m_curves.push_back(
                     {slot, nullptr,
-                     plotPolar(*radius, {model.thetaStartForPolarGraph(), model.thetaEndForPolarGraph()},
-                               model.angleMode() == kDegrees, m_viewport, m_metadata.at(slot))});
+                     graphPolar(*radius, {model.thetaStartForPolarGraph(), model.thetaEndForPolarGraph()},
+                                model.angleMode() == kDegrees, m_viewport, m_metadata.at(slot))});
             }
         }
         break;
@@ -220,9 +250,9 @@ void GraphView::computeCurves() {
             if (x && y) {
                 m_curves.push_back(
                     {slot, nullptr,
-                     plotParametric(*x, *y,
-                                    {model.tStartForParametricGraph(), model.tEndForParametricGraph()},
-                                    m_viewport, m_metadata.at(slot))});
+                     graphParametrically(*x, *y,
+                                         {model.tStartForParametricGraph(), model.tEndForParametricGraph()},
+                                         m_viewport, m_metadata.at(slot))});
             }
         }
         break;
@@ -264,18 +294,32 @@ void GraphView::resumeRefinement() {
 }
 
 void GraphView::drawAxes(DrawingContext& context) const {
+    context.setAlignsToPixels(true);
     context.setStrokeColor(axisColor());
     context.setLineWidth(axisWidth());
-    const double width = m_viewport.width;
-    const double height = m_viewport.height;
     if (m_viewport.xMin < 0 && m_viewport.xMax > 0) {
-        drawLine(context, {m_axes.vertical.axisPosition, 0}, {m_axes.vertical.axisPosition, height});
+        drawAxis(context, true);
     }
     if (m_viewport.yMin < 0 && m_viewport.yMax > 0) {
-        drawLine(context, {0, m_axes.horizontal.axisPosition}, {width, m_axes.horizontal.axisPosition});
+        drawAxis(context, false);
     }
     drawHashMarks(context, true, m_axes.vertical);
     drawHashMarks(context, false, m_axes.horizontal);
+    context.setAlignsToPixels(false);
+}
+
+void GraphView::drawAxis(DrawingContext& context, bool vertical) const {
+    const auto width = static_cast<float>(m_viewport.width);
+    const auto height = static_cast<float>(m_viewport.height);
+    if (vertical) {
+        const auto range = static_cast<float>(m_viewport.xMax - m_viewport.xMin);
+        const float x = -static_cast<float>(m_viewport.xMin) * width / range;
+        drawLine(context, {x, 0}, {x, height});
+    } else {
+        const auto range = static_cast<float>(m_viewport.yMax - m_viewport.yMin);
+        const float y = height + static_cast<float>(m_viewport.yMin) * height / range;
+        drawLine(context, {0, y}, {width, y});
+    }
 }
 
 void GraphView::drawHashMarks(DrawingContext& context, bool vertical, const HashMarks& marks) const {
@@ -294,7 +338,7 @@ void GraphView::drawHashMarks(DrawingContext& context, bool vertical, const Hash
     for (const float along : marks.gridLines) {
         across(along, 0, vertical ? m_viewport.width : m_viewport.height);
     }
-    context.setStrokeColor(axisColor());
+    context.setStrokeColor(hashmarkColor());
     context.setLineWidth(axisWidth());
     for (const float along : marks.ticks) {
         across(along, marks.axisPosition - halfTick, marks.axisPosition + halfTick);
@@ -319,8 +363,8 @@ void GraphView::drawEllipses(DrawingContext& context) const {
         if (!(y >= m_viewport.yMin && y <= m_viewport.yMax)) {
             continue;
         }
-        const Rect circle{m_screenXForTracing - radius, m_viewport.screenY(y) - radius, 2 * radius,
-                          2 * radius};
+        const Rect circle{m_screenXForTracing - radius, m_viewport.screenCoordWithCoord(y, true) - radius,
+                          2 * radius, 2 * radius};
         context.setStrokeColor(slotColor(slot));
         context.setFillColor(slotColor(slot));
         context.fillEllipse(circle);

@@ -9,6 +9,7 @@
 #include "platform/Color.h"
 #include "platform/DrawingContext.h"
 #include "platform/Signal.h"
+#include "platform/Touch.h"
 #include "toolkit/LabelRecord.h"
 
 #include <array>
@@ -38,9 +39,13 @@ public:
     // The visible part of the plane is kept in the model; the view holds a copy.
 
     const Viewport& viewport() const { return m_viewport; }
+    double xMin() const { return m_viewport.xMin; }
+    double xMax() const { return m_viewport.xMax; }
+    double yMin() const { return m_viewport.yMin; }
+    double yMax() const { return m_viewport.yMax; }
     void readBoundsFromModel();
     void storeBoundsInModel();
-    /// Keeps the x range and yMin, and makes a unit as long upward as across.
+    /// Keeps the x range and yMin, and makes a unit as long upward as across, where doubles can.
     void matchXAndYScales();
 
     // The user's hand. Each change is stored in the model at once; one that would leave the range of what
@@ -60,6 +65,11 @@ public:
     void setTraceMode(TraceMode mode);
     float screenXForTracing() const { return m_screenXForTracing; }
     void setScreenXForTracing(float x);
+    /// Puts the trace line under the first finger. Nothing without one.
+    void traceGraphWithSortedTouches(const Touches& touches);
+    /// Moves the trace line to the right (1) or left (-1): by a point, or while something is looked for to
+    /// the next result on screen. Without one the line stays.
+    void stepTrace(int direction);
 
     /// How much slower than usual curves of two variables may be plotted, 1 or more; none is drawn yet.
     double implicitGraphSpeedMultiplier() const { return m_implicitGraphSpeedMultiplier; }
@@ -81,8 +91,12 @@ public:
     bool graphBackgroundIsBlack() const;
     Color backgroundColor() const;
     Color axisColor() const;
+    Color hashmarkColor() const { return axisColor(); }
     Color gridlineColor() const;
     double axisWidth() const;
+    double graphLabelFontSize() const;
+    double graphLabelWidth() const;
+    double graphLabelHeight() const;
 
     /// The text records over the drawing, as of the last frame.
     const std::vector<LabelRecord>& hashMarkLabelArray() const { return m_hashMarkLabels; }
@@ -109,7 +123,9 @@ private:
     void computeAxes();
     void computeCurves();
     void refineSlice();
+    bool isWide() const;
     void drawAxes(DrawingContext& context) const;
+    void drawAxis(DrawingContext& context, bool vertical) const;
     void drawHashMarks(DrawingContext& context, bool vertical, const HashMarks& marks) const;
     void drawVerticalTraceLine(DrawingContext& context) const;
     void drawEllipses(DrawingContext& context) const;
@@ -121,6 +137,7 @@ private:
     void updateNoGraphLabel();
     std::string curveLabel(const ExpressionList& list, int slot) const;
 
+    Size m_size;
     Viewport m_viewport;
     std::array<GraphMetaData, kSlots> m_metadata;
     std::vector<SlotCurve> m_curves;
@@ -131,11 +148,11 @@ private:
     TraceMode m_traceMode = TraceMode::None;
     float m_screenXForTracing = 0;
     double m_tracedX = 0;
-    int m_graphType = 0; ///< of the last frame
     double m_implicitGraphSpeedMultiplier = 1;
     bool m_frameIsCurrent = false;
     Signal<> m_needsDisplay;
     Subscription m_refinementTimer;
+    Subscription m_graphTypeChanges;
 };
 
 } // namespace velmora

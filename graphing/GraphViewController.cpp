@@ -9,7 +9,9 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace velmora {
@@ -18,9 +20,22 @@ namespace {
 
 constexpr Point kNoPan{-1, -1};
 
-/// The order of the fingers stays while they are down.
-void sort(Touches& touches) {
+/// In the order of the fingers, which stays while they are down, and in single precision like all that is
+/// on screen.
+Touches sorted(Touches touches) {
     std::ranges::sort(touches, {}, [](const Touch& touch) { return touch.id; });
+    for (Touch& touch : touches) {
+        touch.location = {static_cast<float>(touch.location.x), static_cast<float>(touch.location.y)};
+    }
+    return touches;
+}
+
+std::string fixedPoint(double number) {
+    constexpr int decimals = 6;
+    std::array<char, std::numeric_limits<double>::max_exponent10 + decimals + 4> text{};
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, decimals);
+    return {text.data(), end.ptr};
 }
 
 Point between(const Touches& touches) {
@@ -57,15 +72,15 @@ void GraphViewController::willAnimateRotation(Orientation /*to*/) { m_graphView.
 
 // Fingers.
 
-void GraphViewController::touchesBegan(Touches touches) {
-    sort(touches);
+void GraphViewController::touchesBegan(const Touches& unsorted) {
+    const Touches touches = sorted(unsorted);
     m_graphView.holdRefinement();
     if (touches.size() == 1) {
         m_touchLocation = touches.front().location;
         m_touchDistance = 0;
     }
     if (m_graphView.traceMode() != TraceMode::None) {
-        traceGraphWithSortedTouches(touches);
+        m_graphView.traceGraphWithSortedTouches(touches);
         return;
     }
     if (touches.size() == 2) {
@@ -79,10 +94,10 @@ void GraphViewController::touchesBegan(Touches touches) {
     }
 }
 
-void GraphViewController::touchesMoved(Touches touches) {
-    sort(touches);
+void GraphViewController::touchesMoved(const Touches& unsorted) {
+    const Touches touches = sorted(unsorted);
     if (m_graphView.traceMode() != TraceMode::None) {
-        traceGraphWithSortedTouches(touches);
+        m_graphView.traceGraphWithSortedTouches(touches);
     } else if (touches.size() == 2) {
         zoomGraphWithSortedTouches(touches, false);
     } else if (touches.size() == 1) {
@@ -90,11 +105,14 @@ void GraphViewController::touchesMoved(Touches touches) {
     }
 }
 
-void GraphViewController::touchesEnded(Touches touches, std::size_t remaining) {
-    sort(touches);
-    if (!touches.empty() && touches.front().tapCount == 2) {
-        doubleTapped(touches);
-        forgetGesture();
+void GraphViewController::touchesEnded(const Touches& unsorted, std::size_t remaining) {
+    const Touches touches = sorted(unsorted);
+    if (!touches.empty()) {
+        log("y=" + fixedPoint(touches.front().location.y));
+        if (touches.front().tapCount == 2) {
+            doubleTapped(touches);
+            forgetGesture();
+        }
     }
     forgetPinch();
     if (remaining == 0) {
@@ -200,12 +218,6 @@ void GraphViewController::zoomGraphWithSortedTouches(const Touches& touches, boo
     m_zoomMode = ZoomMode::Undecided; // each step looks anew at how the fingers have moved
 }
 
-void GraphViewController::traceGraphWithSortedTouches(const Touches& touches) {
-    if (!touches.empty()) {
-        m_graphView.setScreenXForTracing(static_cast<float>(touches.front().location.x));
-    }
-}
-
 void GraphViewController::doubleTapped(const Touches& touches) {
     if (Model::m().graphType() != 0) {
         return; // only functions of x are traced
@@ -213,7 +225,7 @@ void GraphViewController::doubleTapped(const Touches& touches) {
     if (m_graphView.traceMode() != TraceMode::None) {
         m_graphView.setTraceMode(TraceMode::None);
     } else {
-        traceGraphWithSortedTouches(touches);
+        m_graphView.traceGraphWithSortedTouches(touches);
         showFunctionTraceMenu();
     }
 }
@@ -238,7 +250,9 @@ void GraphViewController::zoomAboutCentre(double notches) {
 void GraphViewController::arrowPressed(int across, int upward) {
     constexpr float part = 0.1F;
     if (m_graphView.traceMode() != TraceMode::None) {
-        m_graphView.setScreenXForTracing(m_graphView.screenXForTracing() + static_cast<float>(across));
+        if (across != 0) {
+            m_graphView.stepTrace(across);
+        }
     } else {
         m_graphView.move(static_cast<float>(across * m_graphView.graphWidthInPixels()) * part,
                          static_cast<float>(upward * m_graphView.graphHeightInPixels()) * part);

@@ -46,9 +46,9 @@ public:
     // Fingers. Each call is given all that are on the view, also those that did not change; an ending names
     // those that go and those that stay.
 
-    void touchesBegan(Touches touches);
-    void touchesMoved(Touches touches);
-    void touchesEnded(Touches touches, std::size_t remaining);
+    void touchesBegan(const Touches& touches);
+    void touchesMoved(const Touches& touches);
+    void touchesEnded(const Touches& touches, std::size_t remaining);
     /// The system has taken the touches for itself: the gesture is over, and no tap.
     void touchesCancelled();
 
@@ -56,9 +56,9 @@ public:
 
     /// Zooms about a point of the view, by so many notches of a wheel (away from the user: closer).
     void wheelTurned(Point point, double notches, bool horizontally, bool vertically);
-    /// Arrows move the view by a tenth of it, or the trace line by a point; "+" and "-" zoom about the
-    /// centre; "t" or Enter starts or ends a trace at the middle, Escape ends it; "r" or Home starts over.
-    /// False for any other key.
+    /// Arrows move the view by a tenth of it, or the trace line by a point or to the next result; "+" and "-"
+    /// zoom about the centre; "t" or Enter starts or ends a trace at the middle, Escape ends it; "r" or Home
+    /// starts over. False for any other key.
     bool pressHardwareKey(std::string_view key);
 
     // Menus.
@@ -87,7 +87,6 @@ private:
     ZoomMode zoomModeOf(Point vector) const;
     float pinchDelta() const;
     double zoomBase() const;
-    void traceGraphWithSortedTouches(const Touches& touches);
     void doubleTapped(const Touches& touches);
     void arrowPressed(int across, int upward);
     void zoomAboutCentre(double notches);

@@ -18,12 +18,7 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t kGraphLabels = 8;
-
-double graphLabelFontSize() {
-    constexpr std::array kSizes{14.0, 19.0, 19.0, 29.0};
-    const auto mode = static_cast<std::size_t>(Model::m().fontSizeMode());
-    return kSizes.at(mode < kSizes.size() ? mode : 0);
-}
+constexpr double kLabelMargin = 20;
 
 /// The lists whose curves are drawn, in the order of their labels.
 std::vector<const ExpressionList*> drawnLists() {
@@ -54,6 +49,16 @@ GraphView::GraphView() {
                       .hidden = true};
 }
 
+double GraphView::graphLabelFontSize() const {
+    constexpr std::array kSizes{14.0, 19.0, 19.0, 29.0};
+    const auto mode = static_cast<std::size_t>(Model::m().fontSizeMode());
+    return kSizes.at(mode < kSizes.size() ? mode : 0);
+}
+
+double GraphView::graphLabelWidth() const { return m_size.width - 2 * kLabelMargin; }
+
+double GraphView::graphLabelHeight() const { return std::trunc(textLineHeight(graphLabelFontSize())) + 1; }
+
 void GraphView::updateNoGraphLabel() {
     m_noGraphLabel.frame.width = screenMetrics().screenSize().width;
     m_noGraphLabel.hidden = !Model::m().explainFailureToGraph();
@@ -61,17 +66,16 @@ void GraphView::updateNoGraphLabel() {
 
 /// Lays the eight lines out for the present size and font, all empty.
 void GraphView::createGraphLabels() {
-    constexpr double margin = 20;
     constexpr double smallestFont = 11;
-    const double size = graphLabelFontSize();
-    const double height = std::trunc(textLineHeight(size)) + 1;
+    const double height = graphLabelHeight();
     m_graphLabels.clear();
     for (std::size_t line = 0; line < kGraphLabels; ++line) {
         m_graphLabels.push_back(
-            {.frame = {margin, static_cast<double>(line) * height, m_viewport.width - 2 * margin, height},
-             .fontSize = size,
+            {.frame = {kLabelMargin, static_cast<double>(line) * height, graphLabelWidth(), height},
+             .fontSize = graphLabelFontSize(),
              .minimumFontSize = smallestFont,
-             .textColor = axisColor()});
+             .textColor = axisColor(),
+             .truncation = TextTruncation::Clip});
     }
 }
 
@@ -99,11 +103,14 @@ void GraphView::labelGraph() {
             ++used;
         }
     };
+    if (!m_viewport.isUsable()) {
+        return;
+    }
     if (isTracing()) {
-        m_tracedX = m_viewport.xAtScreenX(m_screenXForTracing);
+        m_tracedX = m_viewport.coordXWithScreenX(m_screenXForTracing);
         if (const auto found = tracedAbscissa(m_traceMode, Model::m().equations(), m_viewport, m_tracedX)) {
             m_tracedX = *found;
-            m_screenXForTracing = m_viewport.screenX(*found);
+            m_screenXForTracing = m_viewport.screenCoordWithCoord(*found, false);
         }
         label("x=" + displayStringWithDouble(m_tracedX), axisColor());
     }

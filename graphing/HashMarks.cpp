@@ -79,7 +79,7 @@ HashMarkSpacing HashMarkSpacing::chosenFor(double low, double high, bool oneLine
     return {choice.multiple * std::pow(ten, exponent), oneLinePerMark ? 1 : choice.lines};
 }
 
-HashMarks HashMarks::along(bool vertical, const Viewport& viewport, const HashMarkSpacing& spacing,
+HashMarks HashMarks::along(bool vertical, const Viewport& viewport, const HashMarkSpacing& spacing, bool wide,
                            const Color& textColor) {
     HashMarks marks;
     const double low = vertical ? viewport.yMin : viewport.xMin;
@@ -93,18 +93,15 @@ HashMarks HashMarks::along(bool vertical, const Viewport& viewport, const HashMa
     } else if (crossHigh <= 0) {
         marks.axisPosition = static_cast<float>(vertical ? width : 0);
     } else {
-        marks.axisPosition = vertical ? viewport.screenX(0) : viewport.screenY(0);
+        marks.axisPosition = viewport.screenCoordWithCoord(0, !vertical);
     }
     if (spacing.hashmarkSpacing <= 0) {
         return marks;
     }
-    const auto onScreen = [&](double value) {
-        return vertical ? viewport.screenY(value) : viewport.screenX(value);
-    };
+    const auto onScreen = [&](double value) { return viewport.screenCoordWithCoord(value, vertical); };
     forEachMultiple(spacing.hashmarkSpacing / spacing.linesPerHashmark, low, high,
                     [&](double value) { marks.gridLines.push_back(onScreen(value)); });
 
-    const bool wide = width > kWideView;
     // Numbers stand below the horizontal axis and left of the vertical one, while there is room.
     const double axis = marks.axisPosition;
     constexpr double roomBelow = 50;

@@ -28,11 +28,9 @@ struct HashMarks {
     float axisPosition = 0;
     std::vector<LabelRecord> labels;
 
-    static HashMarks along(bool vertical, const Viewport& viewport, const HashMarkSpacing& spacing,
+    /// `wide`: the view has room for larger numbers.
+    static HashMarks along(bool vertical, const Viewport& viewport, const HashMarkSpacing& spacing, bool wide,
                            const Color& textColor);
 };
-
-/// A view wider than this many points has wider lines and larger numbers.
-inline constexpr double kWideView = 500;
 
 } // namespace velmora

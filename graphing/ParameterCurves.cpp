@@ -36,8 +36,8 @@ PlottedCurve plot(Point start, const ParameterRange& range, PointAt pointAt, Gra
 
 } // namespace
 
-PlottedCurve plotPolar(const Expression& radius, const ParameterRange& angles, bool inDegrees,
-                       const Viewport& viewport, GraphMetaData& metaData) {
+PlottedCurve graphPolar(const Expression& radius, const ParameterRange& angles, bool inDegrees,
+                        const Viewport& viewport, GraphMetaData& metaData) {
     if (!radius.isGraphable()) {
         return {};
     }
@@ -57,8 +57,8 @@ PlottedCurve plotPolar(const Expression& radius, const ParameterRange& angles, b
         metaData);
 }
 
-PlottedCurve plotParametric(const Expression& x, const Expression& y, const ParameterRange& times,
-                            const Viewport& viewport, GraphMetaData& metaData) {
+PlottedCurve graphParametrically(const Expression& x, const Expression& y, const ParameterRange& times,
+                                 const Viewport& viewport, GraphMetaData& metaData) {
     if (!x.isGraphable() || !y.isGraphable()) {
         return {};
     }

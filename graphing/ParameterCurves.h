@@ -19,10 +19,10 @@ struct ParameterRange {
 // of this is intended. Nothing is drawn of an expression that is not graphable.
 
 /// r as a function of the angle, which the expression sees in the user's unit.
-PlottedCurve plotPolar(const Expression& radius, const ParameterRange& angles, bool inDegrees,
-                       const Viewport& viewport, GraphMetaData& metaData);
+PlottedCurve graphPolar(const Expression& radius, const ParameterRange& angles, bool inDegrees,
+                        const Viewport& viewport, GraphMetaData& metaData);
 
-PlottedCurve plotParametric(const Expression& x, const Expression& y, const ParameterRange& times,
-                            const Viewport& viewport, GraphMetaData& metaData);
+PlottedCurve graphParametrically(const Expression& x, const Expression& y, const ParameterRange& times,
+                                 const Viewport& viewport, GraphMetaData& metaData);
 
 } // namespace velmora

@@ -27,7 +27,7 @@ void zoomRange(double& minimum, double& maximum, double factor) {
 
 void zoomRangeAbout(double& minimum, double& maximum, double fixed, double factor) {
     const double least = 2 * kSmallestHalfWidth * std::fabs(fixed);
-    if ((maximum - minimum) * factor < least) {
+    if (factor < 1 && (maximum - minimum) * factor < least) {
         return;
     }
     maximum = fixed + (maximum - fixed) * factor;
@@ -40,16 +40,16 @@ bool Viewport::isUsable() const {
     return isRange(xMin, xMax) && isRange(yMin, yMax) && width > 0 && height > 0;
 }
 
-float Viewport::screenX(double x) const { return static_cast<float>((x - xMin) * width / (xMax - xMin)); }
-
-float Viewport::screenY(double y) const {
-    const double h = static_cast<float>(height);
-    return static_cast<float>(h - (y - yMin) * h / (yMax - yMin));
+float Viewport::screenCoordWithCoord(double value, bool isY) const {
+    if (isY) {
+        return static_cast<float>(height - (value - yMin) * height / (yMax - yMin));
+    }
+    return static_cast<float>((value - xMin) * width / (xMax - xMin));
 }
 
-double Viewport::xAtScreenX(double screenX) const { return xMin + (xMax - xMin) * screenX / width; }
+double Viewport::coordXWithScreenX(double screenX) const { return xMin + (xMax - xMin) * screenX / width; }
 
-double Viewport::yAtDistance(double distance) const { return yMin + (yMax - yMin) * distance / height; }
+double Viewport::coordYWithScreenY(double distance) const { return yMin + (yMax - yMin) * distance / height; }
 
 bool Viewport::adopt(const Viewport& changed) {
     if (!changed.isUsable()) {
@@ -80,8 +80,8 @@ bool Viewport::zoom(double factorX, double factorY) {
 
 bool Viewport::zoomAbout(Point point, double factorX, double factorY) {
     Viewport zoomed = *this;
-    zoomRangeAbout(zoomed.xMin, zoomed.xMax, xAtScreenX(point.x), factorX);
-    zoomRangeAbout(zoomed.yMin, zoomed.yMax, yAtDistance(height - point.y), factorY);
+    zoomRangeAbout(zoomed.xMin, zoomed.xMax, coordXWithScreenX(point.x), factorX);
+    zoomRangeAbout(zoomed.yMin, zoomed.yMax, coordYWithScreenY(height - point.y), factorY);
     return adopt(zoomed);
 }
 

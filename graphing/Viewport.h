@@ -18,11 +18,10 @@ struct Viewport {
 
     // Mapping. Screen coordinates are single precision, as the drawing layer takes them.
 
-    float screenX(double x) const;
-    float screenY(double y) const;
-    double xAtScreenX(double screenX) const;
+    float screenCoordWithCoord(double value, bool isY) const;
+    double coordXWithScreenX(double screenX) const;
     /// The distance is measured upward from the lower edge.
-    double yAtDistance(double distance) const;
+    double coordYWithScreenY(double distance) const;
 
     // Changes. One that would make a bound infinite, or a range too narrow to be told from none, changes
     // nothing and gives false.

@@ -15,6 +15,9 @@ public:
     virtual void setLineWidth(double width) = 0;
     virtual void setStrokeColor(const Color& color) = 0;
     virtual void setFillColor(const Color& color) = 0;
+    /// Whether upright and level lines may move by up to half a pixel to cover whole pixels, as the lines of
+    /// a grid should to look alike. They may not at first; a context without pixels need not care.
+    virtual void setAlignsToPixels(bool /*aligns*/) {}
     virtual void moveTo(Point point) = 0;
     virtual void lineTo(Point point) = 0;
     virtual void strokePath() = 0;

@@ -10,9 +10,9 @@ namespace velmora {
 
 enum class TextAlignment { Left, Centre, Right };
 
-/// What happens to text that is too wide: its start or its end gives way to an ellipsis, or it goes on in
-/// the next line at a blank.
-enum class TextTruncation { Head, Tail, WordWrap };
+/// What happens to text that is too wide: its start or its end gives way to an ellipsis, it goes on in the
+/// next line at a blank, or it is cut off at the frame.
+enum class TextTruncation { Head, Tail, WordWrap, Clip };
 
 /// A piece of text on a screen: all that a view needs to draw it, and all that a test needs to read it.
 struct LabelRecord {

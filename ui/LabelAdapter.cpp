@@ -7,18 +7,6 @@ namespace velmora {
 
 namespace {
 
-int toQtAlignment(TextAlignment alignment) {
-    switch (alignment) {
-    case TextAlignment::Left:
-        return Qt::AlignLeft;
-    case TextAlignment::Centre:
-        return Qt::AlignHCenter;
-    case TextAlignment::Right:
-        return Qt::AlignRight;
-    }
-    return Qt::AlignLeft;
-}
-
 int toQtElide(TextTruncation truncation) {
     switch (truncation) {
     case TextTruncation::Head:
@@ -26,6 +14,7 @@ int toQtElide(TextTruncation truncation) {
     case TextTruncation::Tail:
         return Qt::ElideRight;
     case TextTruncation::WordWrap:
+    case TextTruncation::Clip:
         return Qt::ElideNone;
     }
     return Qt::ElideRight;

@@ -10,22 +10,6 @@
 
 namespace velmora {
 
-namespace {
-
-int qtAlignment(TextAlignment alignment) {
-    switch (alignment) {
-    case TextAlignment::Left:
-        return Qt::AlignLeft;
-    case TextAlignment::Centre:
-        return Qt::AlignHCenter;
-    case TextAlignment::Right:
-        return Qt::AlignRight;
-    }
-    return Qt::AlignLeft;
-}
-
-} // namespace
-
 void paintLabel(QPainter& painter, const LabelRecord& label, std::optional<Color> halo) {
     if (label.hidden || label.text.empty()) {
         return;
@@ -37,8 +21,12 @@ void paintLabel(QPainter& painter, const LabelRecord& label, std::optional<Color
     const double size = fittedFontSize(label);
     painter.setFont(sceneFont(label.fontName, size));
     QString text = QString::fromStdString(label.text);
-    int flags = qtAlignment(label.alignment) | Qt::AlignVCenter | Qt::TextDontClip;
-    if (label.lineCount == 1) {
+    int flags = static_cast<int>(toQtAlignment(label.alignment)) | Qt::AlignVCenter | Qt::TextDontClip;
+    painter.save();
+    if (label.truncation == TextTruncation::Clip) {
+        painter.setClipRect(frame);
+        flags |= Qt::TextSingleLine;
+    } else if (label.lineCount == 1) {
         flags |= Qt::TextSingleLine;
         LabelRecord fitted = label;
         fitted.fontSize = size;
@@ -61,6 +49,7 @@ void paintLabel(QPainter& painter, const LabelRecord& label, std::optional<Color
     }
     painter.setPen(toQColor(label.textColor));
     painter.drawText(frame, flags, text);
+    painter.restore();
 }
 
 } // namespace velmora

@@ -70,8 +70,7 @@ void QtDrawingContext::lineTo(Point point) {
     moveTo(point);
 }
 
-/// A line of a grid or an axis covers whole pixels, so all of them look alike: where it lies between two
-/// pixels it moves to the nearest.
+/// An upright or level line that lies between two pixels moves to the nearest.
 void QtDrawingContext::snapToPixels(QLineF& line, double& width) const {
     const bool upright = line.x1() == line.x2();
     if (upright == (line.y1() == line.y2())) {
@@ -88,7 +87,7 @@ void QtDrawingContext::snapToPixels(QLineF& line, double& width) const {
 }
 
 void QtDrawingContext::strokePath() {
-    if (m_lines.size() == 1) {
+    if (m_alignsToPixels && m_lines.size() == 1) {
         double width = m_lineWidth;
         snapToPixels(m_lines.front(), width);
         setPen(width);

@@ -25,6 +25,7 @@ public:
     void setLineWidth(double width) override;
     void setStrokeColor(const Color& color) override;
     void setFillColor(const Color& color) override;
+    void setAlignsToPixels(bool aligns) override { m_alignsToPixels = aligns; }
     void moveTo(Point point) override;
     /// A line with an end that is not finite is left out and lifts the pen.
     void lineTo(Point point) override;
@@ -43,6 +44,7 @@ private:
     double m_lineWidth = 1;
     Color m_strokeColor;
     Color m_fillColor;
+    bool m_alignsToPixels = false;
     Point m_pen;
     bool m_penIsDown = false;
     QList<QLineF> m_lines; ///< of the path being made

@@ -243,7 +243,7 @@ TEST(ParameterCurves, goThroughTheirSteps) {
     for (const Row& row : {Row{0, 2 * pi, false, 0}, Row{90, 450, true, 90}}) {
         GraphMetaData data;
         const auto commands =
-            drawn(plotPolar(*parsed("1"), {row.start, row.end}, row.degrees, view, data)).commands;
+            drawn(graphPolar(*parsed("1"), {row.start, row.end}, row.degrees, view, data)).commands;
         ASSERT_EQ(commands.size(), 1002U);
         EXPECT_TRUE(data.wasGraphed);
         EXPECT_NEAR(commands[0].a, 200 + 100 * std::cos(row.firstAngle), 1e-4);
@@ -257,13 +257,14 @@ TEST(ParameterCurves, goThroughTheirSteps) {
         }
     }
     GraphMetaData data;
-    const auto pair = drawn(plotParametric(*parsed("t + i"), *parsed("t ^ 2"), {-1, 1}, view, data)).commands;
+    const auto pair =
+        drawn(graphParametrically(*parsed("t + i"), *parsed("t ^ 2"), {-1, 1}, view, data)).commands;
     ASSERT_EQ(pair.size(), 1002U);
     EXPECT_EQ(pair[0], (RecordingContext::Command{Kind::Move, 100, 100}));
     EXPECT_NEAR(pair[1000].a, 200 + 100 * 0.998, 1e-4);
     EXPECT_FALSE(data.wasSometimesComplex);
     GraphMetaData none;
-    EXPECT_TRUE(drawn(plotParametric(*parsed("t"), *parsed(""), {0, 1}, view, none)).commands.empty());
+    EXPECT_TRUE(drawn(graphParametrically(*parsed("t"), *parsed(""), {0, 1}, view, none)).commands.empty());
     EXPECT_FALSE(none.wasGraphed);
 }
 

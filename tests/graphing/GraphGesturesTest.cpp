@@ -81,6 +81,9 @@ TEST_F(GraphGestures, aPinchDependsOnDeviceAndScale) {
     moveTo({{1, {0, 0}}, {2, {0, 115}}});
     redrawn();
     expectBounds(-12.8, 12.8, -20, 12); // y follows x from its lower end
+    setBounds(-16, 16, 2e7, 0);         // and finds back from a range without a height
+    frame();
+    expectBounds(-16, 16, 2e7, 2e7 + 40);
 }
 
 TEST_F(GraphGestures, aThirdFingerEndsAPinch) {
@@ -101,6 +104,10 @@ TEST_F(GraphGestures, zoomingEndsWhereNumbersDo) {
         view().zoom(0.2, 1);
     }
     EXPECT_NEAR(Model::m().xMaxForGraph() - 1e6, 1e-4, 1e-9);
+    controller->wheelTurned({160, 200}, 1, true, false);
+    EXPECT_NEAR(Model::m().xMaxForGraph() - 1e6, 1e-4, 1e-9);
+    controller->wheelTurned({160, 200}, -1, true, false);
+    EXPECT_NEAR(Model::m().xMaxForGraph() - 1e6, 1.25e-4, 1e-9);
     for (int i = 0; i < 2000; ++i) {
         view().zoom(5, 5);
         view().move(1e30F, 0);
@@ -147,12 +154,36 @@ TEST_F(GraphGestures, aTraceSnapsToWhatItLooksFor) {
         setEquation(1, row.second);
         trace(160 + 10 * row.x, row.choice);
         EXPECT_EQ(static_cast<int>(view().traceMode()), (std::array{0, 2, 3, 4, 1})[std::size_t(row.choice)]);
-        EXPECT_NEAR(view().viewport().xAtScreenX(view().screenXForTracing()), row.found, 1e-5)
+        EXPECT_NEAR(view().viewport().coordXWithScreenX(view().screenXForTracing()), row.found, 1e-5)
             << row.first << " " << row.choice << " from " << row.x;
         doubleTap(0);
         EXPECT_EQ(view().traceMode(), TraceMode::None);
         EXPECT_TRUE(alerts.alerts().empty()) << "a double tap only ends the trace";
     }
+}
+
+TEST_F(GraphGestures, arrowsMoveTheTraceLine) {
+    const auto x = [&] {
+        redrawn();
+        return view().viewport().coordXWithScreenX(view().screenXForTracing());
+    };
+    setEquation(0, "sin( x )");
+    trace(180, 4);
+    controller->pressHardwareKey("Right");
+    EXPECT_NEAR(x(), 2.1, 1e-5) << "by a point";
+    controller->pressHardwareKey("Up");
+    doubleTap(0);
+    trace(160, 1);
+    const double pi = std::acos(-1.0);
+    for (const double root : {pi, 2 * pi, 3 * pi}) {
+        controller->pressHardwareKey("Right");
+        EXPECT_NEAR(x(), root, 1e-5) << "to the next root";
+    }
+    for (int i = 0; i < 9; ++i) {
+        controller->pressHardwareKey("Left");
+    }
+    EXPECT_NEAR(x(), -5 * pi, 1e-5) << "the last one on screen";
+    expectBounds(-16, 16, -20, 20);
 }
 
 TEST_F(GraphGestures, aTraceShowsValuesAndMarks) {
@@ -170,6 +201,7 @@ TEST_F(GraphGestures, aTraceShowsValuesAndMarks) {
     EXPECT_EQ(view().screenXForTracing(), 180);
     trace(180, 4);
     EXPECT_EQ(label(0), "x=2");
+    EXPECT_EQ(view().graphLabelArray().front().truncation, TextTruncation::Clip);
     EXPECT_EQ(label(1), "4");
     EXPECT_EQ(label(2), "1.41421 (complex values not shown)");
     EXPECT_EQ(label(3), "102");
@@ -188,7 +220,6 @@ TEST_F(GraphGestures, aTraceShowsValuesAndMarks) {
     EXPECT_EQ(label(2), "complex (complex values not shown)");
     expectBounds(-16, 16, -20, 20);
     Model::m().setGraphType(1);
-    frame();
     EXPECT_EQ(view().traceMode(), TraceMode::None) << "only functions of x are traced";
     doubleTap(100);
     EXPECT_TRUE(alerts.alerts().empty());

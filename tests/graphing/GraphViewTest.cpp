@@ -64,7 +64,8 @@ TEST(HashMarks, areNumberedBesideTheAxis) {
         const auto spacing = row.vertical
                                  ? HashMarkSpacing::chosenFor(row.viewport.yMin, row.viewport.yMax, false)
                                  : HashMarkSpacing::chosenFor(row.viewport.xMin, row.viewport.xMax, false);
-        const HashMarks marks = HashMarks::along(row.vertical, row.viewport, spacing, {});
+        const HashMarks marks =
+            HashMarks::along(row.vertical, row.viewport, spacing, row.viewport.width > 500, {});
         std::string numbers;
         for (const LabelRecord& label : marks.labels) {
             numbers += label.text + " ";
@@ -78,7 +79,7 @@ TEST(HashMarks, areNumberedBesideTheAxis) {
         EXPECT_EQ(marks.labels.front().fontSize, row.viewport.width > 500 ? 18 : 12);
     }
     // Far out, where adding the spacing no longer changes a value, the marks end.
-    EXPECT_LT(HashMarks::along(false, at(1e17, 1e17 + 64, 0, 1), {1, 5}, {}).gridLines.size(), 10U);
+    EXPECT_LT(HashMarks::along(false, at(1e17, 1e17 + 64, 0, 1), {1, 5}, false, {}).gridLines.size(), 10U);
 }
 
 TEST_F(GraphViewTest, drawsAxesThenGridThenCurves) {
@@ -140,7 +141,7 @@ TEST_F(GraphViewTest, namesCurvesInTheirColours) {
     EXPECT_EQ(view().graphLabelArray()[1].textColor, slotColor(3));
     EXPECT_EQ(label(2), "");
     const Rect frameOfSecond = view().graphLabelArray()[1].frame;
-    EXPECT_EQ(frameOfSecond, (Rect{20, 17, 280, 17}))
+    EXPECT_EQ(frameOfSecond, (Rect{20, 17, 320.9 - 40, 17}))
         << "lines of a font of 14 are 16.8 apart, whole and one more";
     {
         PlainDevice tablet(DeviceClass::Tablet);

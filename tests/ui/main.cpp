@@ -1,5 +1,7 @@
+#include <QFile>
 #include <QGuiApplication>
 #include <QLocale>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -14,6 +16,9 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")) {
         qputenv("QT_QUICK_BACKEND", "software");
     }
+    // Files and pictures go to a home of their own, which goes with the tests.
+    const QTemporaryDir home;
+    qputenv("HOME", QFile::encodeName(home.path()));
     QGuiApplication::setApplicationName(QStringLiteral("velmora-tests"));
     const QGuiApplication application(argc, argv);
     // A language that writes numbers another way; the program must not follow it.
