@@ -17,11 +17,25 @@
 #include <QTouchEvent>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace velmora {
 
 namespace {
 
 Point toPoint(QPointF point) { return {point.x(), point.y()}; }
+
+/// Of a number at the edge the frame keeps only the centre on the screen; it moves in until all of it shows.
+LabelRecord movedInto(const Rect& bounds, LabelRecord label) {
+    constexpr double margin = 2;
+    label.fontSize = fittedFontSize(label);
+    const double half = textSize(label).width / 2 + margin;
+    const double centre = label.frame.x + label.frame.width / 2;
+    if (2 * half < bounds.width) {
+        label.frame.x += std::clamp(centre, bounds.x + half, bounds.x + bounds.width - half) - centre;
+    }
+    return label;
+}
 
 /// A name that no picture has yet, with the time, so that pictures sort by it.
 QString newPicturePath(const QDir& folder) {
@@ -88,10 +102,11 @@ void GraphItem::paint(QPainter& painter) {
         QtDrawingContext context(painter, bounds);
         view.drawRect(context);
     }
-    for (const auto* labels : {&view.hashMarkLabelArray(), &view.graphLabelArray()}) {
-        for (const LabelRecord& label : *labels) {
-            paintLabel(painter, label, view.backgroundColor());
-        }
+    for (const LabelRecord& number : view.hashMarkLabelArray()) {
+        paintLabel(painter, movedInto(bounds, number), view.backgroundColor());
+    }
+    for (const LabelRecord& label : view.graphLabelArray()) {
+        paintLabel(painter, label, view.backgroundColor());
     }
     paintLabel(painter, view.noGraphLabel());
     if (m_screen) {
