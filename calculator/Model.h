@@ -158,6 +158,8 @@ public:
     /// How often the program has become active, summed over runs.
     int nHasBecomeActive() const { return m_nHasBecomeActive; }
     void setNHasBecomeActive(int count) { m_nHasBecomeActive = count; }
+    /// Adds a count that is not negative; the sum stays at the greatest number once it is reached.
+    void addActivations(int count);
     /// At every twentieth activation (and before the first), until the settings have been opened once.
     bool shouldShowSettingsTip() const;
 

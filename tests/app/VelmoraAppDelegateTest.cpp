@@ -19,6 +19,15 @@
 namespace velmora::test {
 namespace {
 
+class NamedScreen final : public ViewController {
+public:
+    explicit NamedScreen(std::string name) : m_name(std::move(name)) {}
+    std::string className() const override { return m_name; }
+
+private:
+    std::string m_name;
+};
+
 class VelmoraAppDelegateTest : public testing::Test {
 public:
     VelmoraAppDelegateTest() { forgetEverything(); }
@@ -44,11 +53,8 @@ TEST_F(VelmoraAppDelegateTest, startsWithTheCalculator) {
     EXPECT_TRUE(sounds.preloaded().empty());
     EXPECT_TRUE(logged.empty());
 
-    const auto& tabs = app.tabBarController()->viewControllers();
-    ASSERT_FALSE(tabs.empty());
-    EXPECT_EQ(tabs[0]->tabTitle(), "Calculator");
-    EXPECT_EQ(tabs[0]->tabImage(), "calculator.png");
-    const auto stack = std::dynamic_pointer_cast<NavigationController>(tabs[0]);
+    const auto stack =
+        std::dynamic_pointer_cast<NavigationController>(app.tabBarController()->viewControllers().at(0));
     ASSERT_TRUE(stack);
     EXPECT_EQ(stack->topViewController(), app.calculator());
     EXPECT_TRUE(app.calculator()->hidesNavigationBar());
@@ -60,6 +66,53 @@ TEST_F(VelmoraAppDelegateTest, startsWithTheCalculator) {
     }
     EXPECT_EQ(Model::m().history().entryAtIndex(0)->resultText(), "42");
     EXPECT_EQ(SettingsTargetRegistry::shared().find("Model"), &Model::m());
+}
+
+TEST_F(VelmoraAppDelegateTest, tabsStandInTheirOrderAsFarAsTheirScreensExist) {
+    struct Tab {
+        const char *title, *image, *className;
+    };
+    const Tab tabs[] = {{"Calculator", "calculator.png", "KeyboardViewController"},
+                        {"Equations", "equation.png", "EquationsViewController"},
+                        {"Graph", "graph.png", "GraphViewController"},
+                        {"Reference", "reference.png", "FunctionSelectViewController"},
+                        {"Table", "table.png", "ValueTableViewController"},
+                        {"Triangle Solver", "triangleSolver.png", "TriangleSolverViewController"},
+                        {"Polynomial Solvers", "polynomialSolver.png", "PolynomialSolversViewController"},
+                        {"Settings", "settings.png", "SettingsViewController"},
+                        {"If you like this app", "heart", "PageViewController"},
+                        {"Help", "questionMark.png", "FunctionSelectViewController"}};
+    const auto isFuture = [](const Tab& tab) {
+        return std::string_view("table.png triangleSolver.png polynomialSolver.png").find(tab.image) !=
+               std::string_view::npos;
+    };
+    for (const bool allExist : {false, true}) {
+        forgetEverything();
+        for (const Tab& tab : tabs) {
+            if (allExist && isFuture(tab)) {
+                ScreenRegistry::shared().registerScreen(
+                    tab.className, [name = tab.className] { return std::make_shared<NamedScreen>(name); });
+            }
+        }
+        VelmoraAppDelegate started;
+        started.applicationDidFinishLaunching();
+        const TabBarController& bar = *started.tabBarController();
+        std::size_t place = 0;
+        for (const Tab& tab : tabs) {
+            SCOPED_TRACE(tab.title);
+            if (!allExist && isFuture(tab)) {
+                continue;
+            }
+            ASSERT_LT(place, bar.viewControllers().size());
+            const auto shown = bar.viewControllers()[place++];
+            const auto stack = std::dynamic_pointer_cast<NavigationController>(shown);
+            EXPECT_EQ(shown->tabTitle(), tab.title);
+            EXPECT_EQ(shown->tabImage(), tab.image);
+            EXPECT_EQ((stack ? stack->rootViewController() : shown)->className(), tab.className);
+        }
+        EXPECT_EQ(place, bar.viewControllers().size());
+        EXPECT_TRUE(logged.empty());
+    }
 }
 
 TEST_F(VelmoraAppDelegateTest, clickIsReadyWhenSoundIsAlreadyOn) {
@@ -93,11 +146,9 @@ TEST_F(VelmoraAppDelegateTest, savesInTheBackgroundAndAtTheEnd) {
 }
 
 TEST_F(VelmoraAppDelegateTest, unitConverterOpensAgainOverTheCalculator) {
-    class Converter final : public ViewController {
-        std::string className() const override { return "UnitConvertViewController"; }
-    };
-    ScreenRegistry::shared().registerScreen("UnitConvertViewController",
-                                            [] { return std::make_shared<Converter>(); });
+    ScreenRegistry::shared().registerScreen("UnitConvertViewController", [] {
+        return std::make_shared<NamedScreen>("UnitConvertViewController");
+    });
     const TemporaryFolder home;
     PlainDocumentsFolder documents(home.path());
     const DocumentsFolderScope documentsScope(documents);
