@@ -115,7 +115,7 @@ TEST(TerminationSignals, turnASignalIntoARequest) {
     const TerminationSignals termination;
     int requests = 0;
     QObject::connect(&termination, &TerminationSignals::requested, &termination, [&] { ++requests; });
-    for (const int signal : {SIGTERM, SIGINT}) {
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         requests = 0;
         std::raise(signal);
         EXPECT_EQ(requests, 0); // nothing runs inside the handler
