@@ -30,7 +30,12 @@ void setHandler(void (*handler)(int)) {
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        sigaction(signal, &action, nullptr);
+        struct sigaction former {};
+        sigaction(signal, nullptr, &former);
+        // Whoever started the program deaf to a signal, as nohup does, wants it to stay.
+        if (former.sa_handler != SIG_IGN) {
+            sigaction(signal, &action, nullptr);
+        }
     }
 }
 

@@ -136,6 +136,11 @@ TEST_P(Screens, equationsAreEditedSavedAndRefused) {
     program.press(Qt::Key_Return);
     EXPECT_TRUE(program.isOnScreen(utf8("r2(θ)=2")));
     picture("equations-polar");
+    program.click(utf8("Range")); // which functions have no use for
+    openSettings();
+    Model::m().setGraphType(0);
+    program.click(utf8("Equations"));
+    EXPECT_TRUE(program.isOnScreen(utf8("y1(x)=2x^3-x/5+1")));
 }
 
 TEST_P(Screens, everythingIsThereAgainAfterAKillInTheBackground) {
