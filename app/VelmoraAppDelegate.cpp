@@ -35,7 +35,8 @@ void warnOfMemoryDebugging() {
     }
 }
 
-/// A tab that is opened by its class name, and has its place as soon as that name is registered.
+/// A tab that is opened by its class name. It has its place as soon as that name is registered; until then
+/// the others stand as if it were not there.
 struct TabRow {
     const char* className;
     const char* title;
@@ -53,7 +54,11 @@ constexpr std::array kTabs{
     TabRow{kEquationsTab, "Equations", "equation.png"},
     TabRow{.className = "GraphViewController", .title = "Graph", .image = "graph.png", .inStack = false},
     TabRow{"FunctionSelectViewController", "Reference", "reference.png", "Reference"},
+    TabRow{"ValueTableViewController", "Table", "table.png"},
+    TabRow{"TriangleSolverViewController", "Triangle Solver", "triangleSolver.png"},
+    TabRow{"PolynomialSolversViewController", "Polynomial Solvers", "polynomialSolver.png"},
     kSettingsTab,
+    TabRow{"IfYouLikeThisAppPage", "If you like this app", "heart"},
     TabRow{"FunctionSelectViewController", "Help", "questionMark.png", "Help List"},
 };
 
@@ -127,8 +132,7 @@ void VelmoraAppDelegate::applicationDidFinishLaunching() {
 }
 
 void VelmoraAppDelegate::applicationDidBecomeActive() {
-    Model& model = Model::m();
-    model.setNHasBecomeActive(model.nHasBecomeActive() + 1);
+    Model::m().addActivations(1);
     // The tip row may have come or gone, and taps are told by the row's number.
     if (m_calculator) {
         m_calculator->reloadHistory();

@@ -6,13 +6,15 @@
 #include "calculator/ModelProperties.h"
 #include "calculator/OrientationMode.h"
 #include "engine/Expression.h"
-#include "platform/AtomicFile.h"
 #include "platform/DocumentsFolder.h"
-#include "platform/Log.h"
 #include "platform/NavigationController.h"
+#include "platform/PropertyListFile.h"
 #include "platform/SavingRegistry.h"
 #include "platform/ScreenRegistry.h"
 #include "platform/TabBarController.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace velmora {
 
@@ -72,26 +74,15 @@ std::optional<std::filesystem::path> Model::dataFilePath() { return documentPath
 void Model::save() {
     SavingRegistry::shared().saveAll();
     if (const auto path = dataFilePath()) {
-        writeFileAtomically(*path, binaryPropertyList(archivedModel(*this)));
+        writePropertyListAtomically(*path, archivedModel(*this));
     }
 }
 
 void Model::load() {
     setUnitConverterArray(std::nullopt);
     const auto path = dataFilePath();
-    const std::string bytes = path ? readFile(*path).value_or(std::string()) : std::string();
-    if (bytes.empty()) {
-        loadArchivedModel(*this, {});
-        return;
-    }
-    const std::optional<PropertyList> archive = readPropertyList(bytes);
-    if (archive && archive->asDictionary()) {
-        loadArchivedModel(*this, *archive);
-        return;
-    }
-    log("catch");
-    setAsideDamagedFile(*path);
-    loadArchivedModel(*this, {});
+    const auto archive = path ? readDictionaryFile(*path, "catch") : std::nullopt;
+    loadArchivedModel(*this, archive.value_or(PropertyDictionary()));
 }
 
 void Model::setAngleMode(int mode) {
@@ -204,6 +195,10 @@ bool Model::explainFailureToGraph() const {
 int Model::pickerSelectedUnitIndex() const {
     const int count = m_unitConverterArray ? static_cast<int>(m_unitConverterArray->size()) : 0;
     return m_pickerSelectedUnitIndex > count ? count - 1 : m_pickerSelectedUnitIndex;
+}
+
+void Model::addActivations(int count) {
+    m_nHasBecomeActive += std::min(count, std::numeric_limits<int>::max() - std::max(m_nHasBecomeActive, 0));
 }
 
 bool Model::shouldShowSettingsTip() const {

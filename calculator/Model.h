@@ -36,8 +36,8 @@ public:
     /// Has everything registered for saving saved, then writes the model's own file. A failure to write
     /// leaves the former file as it was.
     void save();
-    /// Reads the model's file. Without one, or when it cannot be understood, everything is as at a first
-    /// start; a file that cannot be understood is kept under another name.
+    /// Reads the model's file. Without one, or when it cannot be read or understood, everything is as at a
+    /// first start; such a file is kept under another name.
     void load();
     /// Where the model is kept; nothing on a machine without a documents folder.
     static std::optional<std::filesystem::path> dataFilePath();
@@ -160,6 +160,8 @@ public:
     /// How often the program has become active, summed over runs.
     int nHasBecomeActive() const { return m_nHasBecomeActive; }
     void setNHasBecomeActive(int count) { m_nHasBecomeActive = count; }
+    /// Adds a count that is not negative; the sum stays at the greatest number once it is reached.
+    void addActivations(int count);
     /// At every twentieth activation (and before the first), until the settings have been opened once.
     bool shouldShowSettingsTip() const;
 

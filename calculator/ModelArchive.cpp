@@ -66,6 +66,10 @@ constexpr std::array kLists{
     ListRow{"impliedFunctionsTokenArrays", [](Model& m) -> ExpressionList& { return m.impliedFunctions(); }},
 };
 
+// The ends of a curve's variable: a range of which one end is no number is no range.
+constexpr std::array kVariableRanges{std::array{"tStartForParametricGraph", "tEndForParametricGraph"},
+                                     std::array{"thetaStartForPolarGraph", "thetaEndForPolarGraph"}};
+
 constexpr const char* kImpliedFunctionHeights = "impliedFunctionsLevelCurveHeights";
 constexpr const char* kConstantNames = "ConstantsNameArrays";
 constexpr const char* kInequalities = "InequalityArrayKey";
@@ -83,11 +87,22 @@ bool isOfType(const ModelProperty& property, const PropertyList& value) {
     return (property.type == PropertyType::Boolean) == value.asBool().has_value();
 }
 
+bool isEndOfBrokenRange(std::string_view key, const KeyedUnarchiver& coder) {
+    const auto isBroken = [&](const char* end) {
+        const auto number = coder.number(end);
+        return number && !std::isfinite(*number);
+    };
+    return std::ranges::any_of(kVariableRanges, [&](const auto& ends) {
+        return std::ranges::find(ends, key) != ends.end() && std::ranges::any_of(ends, isBroken);
+    });
+}
+
 void loadSettings(Model& model, const KeyedUnarchiver& coder) {
     for (const SettingRow& row : kSettings) {
         const PropertyList* saved = coder.value(row.key);
         const ModelProperty* property = modelProperty(row.property);
-        const bool usable = saved && isOfType(*property, *saved) && accepts(*property, *saved);
+        const bool usable = saved && isOfType(*property, *saved) && accepts(*property, *saved) &&
+                            !isEndOfBrokenRange(row.key, coder);
         property->set(model, usable ? *saved : row.byDefault);
     }
 }
@@ -100,9 +115,9 @@ void loadDisplayMode(Model& model, const KeyedUnarchiver& coder) {
 }
 
 void loadActivations(Model& model, const KeyedUnarchiver& coder) {
-    const std::int64_t limit = std::numeric_limits<int>::max();
-    const std::int64_t saved = std::clamp<std::int64_t>(coder.integer(kActivations).value_or(0), 0, limit);
-    model.setNHasBecomeActive(static_cast<int>(std::min(saved + model.nHasBecomeActive(), limit)));
+    const std::int64_t saved = coder.integer(kActivations).value_or(0);
+    const bool known = accepts(*modelProperty("nHasBecomeActive"), PropertyList(saved));
+    model.addActivations(known ? static_cast<int>(saved) : 0);
 }
 
 /// All four or none: a file without the first has no range.
@@ -164,7 +179,7 @@ PropertyList archivedModel(Model& model) {
         coder.encode(row.key, modelProperty(row.property)->get(model));
     }
     for (const ListRow& row : kLists) {
-        coder.encode(row.key, row.list(model).archivedEntries());
+        coder.encode(row.key, row.list(model).expressionTokenArrays());
     }
     coder.encode(kImpliedFunctionHeights, model.impliedFunctions().archivedHeights());
     const std::vector<std::string>& names = model.constants().nameArray();

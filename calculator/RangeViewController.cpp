@@ -2,6 +2,7 @@
 
 #include "calculator/Model.h"
 #include "calculator/SettingsRows.h"
+#include "platform/NavigationController.h"
 
 namespace velmora {
 
@@ -36,6 +37,14 @@ std::string RangeViewController::titleForHeaderInRawSection(int /*section*/) con
 
 std::shared_ptr<OrvSettingsCell> RangeViewController::cellForRaw(int /*section*/, int row) {
     return settingsCell(rangeSection(), row);
+}
+
+void RangeViewController::viewWillAppear(bool animated) {
+    OrvSettingsTableViewController::viewWillAppear(animated);
+    NavigationController* stack = navigationController();
+    if (stack && sections().empty()) {
+        stack->pop(false);
+    }
 }
 
 bool RangeViewController::shouldAutorotate(Orientation orientation) const {

@@ -12,10 +12,12 @@ public:
 
     std::string className() const override { return "RangeViewController"; }
 
-    int rawNumberOfSections() const override { return 1; }
+    int rawNumberOfSectionsInTableView() const override { return 1; }
     int rawNumberOfRowsInRawSection(int section) const override;
     std::string titleForHeaderInRawSection(int section) const override;
     std::shared_ptr<OrvSettingsCell> cellForRaw(int section, int row) override;
+    /// A page without rows, which the type has left behind, leads back by itself.
+    void viewWillAppear(bool animated) override;
     bool shouldAutorotate(Orientation orientation) const override;
 };
 

@@ -31,7 +31,7 @@ SettingsViewController::SettingsViewController() {
     setTabImage("settings.png");
 }
 
-int SettingsViewController::rawNumberOfSections() const { return kSettingsSectionCount; }
+int SettingsViewController::rawNumberOfSectionsInTableView() const { return kSettingsSectionCount; }
 
 int SettingsViewController::rawNumberOfRowsInRawSection(int section) const {
     return settingsRowCount(section);
@@ -49,7 +49,7 @@ std::shared_ptr<OrvSettingsCell> SettingsViewController::cellForRaw(int section,
     return settingsCell(section, row);
 }
 
-bool SettingsViewController::hideCell(int section, int row) const {
+bool SettingsViewController::hideCellAtSection(int section, int row) const {
     const RowPlace place{section, row};
     const bool isPhone = currentDevice().deviceClass() == DeviceClass::Phone;
     if (place == kPortraitDisplay && isPhone) {
@@ -66,7 +66,10 @@ bool SettingsViewController::hideCell(int section, int row) const {
     if (place == kFonts && !isPhone) {
         return true;
     }
-    return place == kOrientations && isPhone;
+    if (place == kOrientations && isPhone) {
+        return true;
+    }
+    return OrvSettingsTableViewController::hideCellAtSection(section, row);
 }
 
 void SettingsViewController::pushComplexImplementationNotes() {

@@ -12,11 +12,11 @@ public:
 
     std::string className() const override { return "SettingsViewController"; }
 
-    int rawNumberOfSections() const override;
+    int rawNumberOfSectionsInTableView() const override;
     int rawNumberOfRowsInRawSection(int section) const override;
     std::string titleForHeaderInRawSection(int section) const override;
     std::shared_ptr<OrvSettingsCell> cellForRaw(int section, int row) override;
-    bool hideCell(int section, int row) const override;
+    bool hideCellAtSection(int section, int row) const override;
     void pushComplexImplementationNotes();
 
     void viewWillAppear(bool animated) override;

@@ -128,7 +128,7 @@ bool ExpressionList::setExpressionAtIndex(int index, const ExpressionWithTokenAr
     return true;
 }
 
-PropertyList ExpressionList::archivedEntries() const {
+PropertyList ExpressionList::expressionTokenArrays() const {
     PropertyArray array;
     for (const auto& entry : m_entries) {
         KeyedArchiver coder;

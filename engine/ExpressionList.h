@@ -62,7 +62,7 @@ public:
     bool setExpressionAtIndex(int index, const ExpressionWithTokenArray& entry, bool checkForRecursion);
 
     /// The saved form: one element an entry.
-    PropertyList archivedEntries() const;
+    PropertyList expressionTokenArrays() const;
     /// Restores saved entries over the present ones. Elements may be entries, or arrays of tokens or
     /// texts as old files hold them; anything else is skipped. Entries beyond the capacity are not
     /// taken: of the history the newest stay, of a list of slots the first.

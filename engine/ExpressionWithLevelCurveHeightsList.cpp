@@ -48,7 +48,9 @@ void ExpressionWithLevelCurveHeightsList::loadHeights(const PropertyList& object
     }
     std::vector<LevelCurveHeights> heights;
     for (const PropertyList& saved : *array) {
-        heights.push_back(LevelCurveHeights::decode(KeyedUnarchiver(saved)));
+        // What is no set of heights must not read as one whose every number is 0.
+        heights.push_back(saved.asDictionary() != nullptr ? LevelCurveHeights::decode(KeyedUnarchiver(saved))
+                                                          : LevelCurveHeights());
     }
     setLevelCurveHeightsArray(std::move(heights));
 }

@@ -25,7 +25,7 @@ public:
     std::string descriptionWithIndex(int index) const override;
 
     PropertyList archivedHeights() const;
-    /// Unchanged when the list holds no heights.
+    /// Unchanged when the list holds no heights; an element that is no set of heights reads as the default.
     void loadHeights(const PropertyList& object);
 
 private:

@@ -55,6 +55,12 @@ void GenericEquationsViewController::openEditor(int entering, ExpressionList& ta
     push(std::move(editor));
 }
 
+void GenericEquationsViewController::createSwitchButton() {
+    std::vector<BarButton> buttons = rightBarButtons();
+    buttons.push_back({"Mode", [this] { switchButtonPressed(); }});
+    setRightBarButtons(std::move(buttons));
+}
+
 void GenericEquationsViewController::switchButtonPressed() {
     push(std::make_shared<OrvPickTableViewController>(std::make_shared<OrvListPickSettingsCell>(
         "Graph type", OrvBoundSettingsCell::Binding{"Model", "graphType"},

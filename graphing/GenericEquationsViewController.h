@@ -24,8 +24,9 @@ public:
     /// The scene without its tab bar and navigation bar.
     static double combinedHeightOfAllRows();
 
-    /// Offers the kinds of graph. No screen shows the button that leads here: the kind is chosen in the
-    /// settings. Intended; a second place for one setting would only be in the way.
+    /// Adds the button "Mode", which offers the kinds of graph. No screen calls it: the kind is chosen in
+    /// the settings. Intended; a second place for one setting would only be in the way.
+    void createSwitchButton();
     void switchButtonPressed();
 
     /// Emitted when the rows have changed.

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <iterator>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -83,6 +84,15 @@ void removeAbandonedFiles(const std::filesystem::path& path) {
     }
 }
 
+/// Takes a free name by an exclusive creation, so that a rename onto it can only replace what is empty and
+/// our own. A folder can be renamed onto a folder only. False, with errno set, when that fails.
+bool claimName(const std::filesystem::path& path, bool forFolder) {
+    if (forFolder) {
+        return ::mkdir(path.c_str(), 0700) == 0;
+    }
+    return Descriptor(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600)).isOpen();
+}
+
 } // namespace
 
 bool writeFileAtomically(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
@@ -134,18 +144,18 @@ std::optional<std::filesystem::path> setAsideDamagedFile(const std::filesystem::
         log("no file to set aside: " + path.string());
         return std::nullopt;
     }
+    const bool isFolder = std::filesystem::is_directory(path, error);
     for (int number = 1; number <= kMaximumDamagedFiles; ++number) {
         const std::string suffix = number == 1 ? " (damaged)" : " (damaged " + std::to_string(number) + ")";
         const std::filesystem::path candidate = path.string() + suffix;
-        // The exclusive creation claims the name, so the rename can only replace our own empty file.
-        const Descriptor claim(::open(candidate.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-        if (!claim.isOpen() && errno == EEXIST) {
+        const bool claimed = claimName(candidate, isFolder);
+        if (!claimed && errno == EEXIST) {
             continue;
         }
-        if (!claim.isOpen() || ::rename(path.c_str(), candidate.c_str()) != 0) {
+        if (!claimed || ::rename(path.c_str(), candidate.c_str()) != 0) {
             logFailure("cannot set aside", path);
-            if (claim.isOpen()) {
-                ::unlink(candidate.c_str());
+            if (claimed) {
+                std::filesystem::remove(candidate, error);
             }
             return std::nullopt;
         }

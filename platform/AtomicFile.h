@@ -18,8 +18,9 @@ bool writeFileAtomically(const std::filesystem::path& path, std::string_view byt
 /// All bytes of a file; nothing when it is absent or cannot be read.
 std::optional<std::string> readFile(const std::filesystem::path& path);
 
-/// Renames a file that could not be understood to "name (damaged)", "name (damaged 2)" and so on, never
-/// over an earlier one, so that nothing of the user's is lost. The new path; nothing (logged) on failure.
+/// Renames a file that could not be understood, or a folder that stands in its place, to "name (damaged)",
+/// "name (damaged 2)" and so on, never over an earlier one, so that nothing of the user's is lost. The new
+/// path; nothing (logged) on failure.
 std::optional<std::filesystem::path> setAsideDamagedFile(const std::filesystem::path& path);
 
 } // namespace velmora

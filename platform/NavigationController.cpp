@@ -70,6 +70,10 @@ void NavigationController::replaceRoot(std::shared_ptr<ViewController> controlle
     if (stack.empty()) {
         stack.push_back(std::move(controller));
     } else {
+        // Whatever lies above keeps its way back under the name it was opened with, such as "Cancel".
+        if (stack.size() > 1) {
+            controller->setBackButtonTitle(stack.front()->m_backButtonTitle);
+        }
         stack.front() = std::move(controller);
     }
     setStack(std::move(stack), false);
@@ -144,8 +148,9 @@ void NavigationController::viewDidDisappear(bool animated) {
 }
 
 bool NavigationController::shouldAutorotate(Orientation orientation) const {
-    const auto top = topViewController();
-    return !top || top->shouldAutorotate(orientation);
+    // Those below are seen again after the next pop, and must not find the scene turned against their will.
+    return std::ranges::all_of(
+        m_stack, [&](const auto& controller) { return controller->shouldAutorotate(orientation); });
 }
 
 void NavigationController::willAnimateRotation(Orientation to) {

@@ -28,7 +28,8 @@ public:
     /// Takes off what is above the screen. False, with nothing changed, when it is not in the stack.
     bool popTo(const ViewController& controller, bool animated = true);
     void popToRoot(bool animated = true);
-    /// Exchanges the lowest screen; what is above it stays. A null or already stacked one is ignored.
+    /// Exchanges the lowest screen; what is above it stays, with the title of its back button. A null or
+    /// already stacked one is ignored.
     void replaceRoot(std::shared_ptr<ViewController> controller);
 
     /// The screen that shows; null when the stack is empty.

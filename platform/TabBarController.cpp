@@ -131,8 +131,9 @@ void TabBarController::viewDidDisappear(bool animated) {
 }
 
 bool TabBarController::shouldAutorotate(Orientation orientation) const {
-    const auto shown = shownViewController();
-    return !shown || shown->shouldAutorotate(orientation);
+    // The "More" list stands in for the selected screen, so it turns as that one does.
+    const auto selected = selectedViewController();
+    return !selected || selected->shouldAutorotate(orientation);
 }
 
 void TabBarController::willAnimateRotation(Orientation to) {

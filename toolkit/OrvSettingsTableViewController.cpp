@@ -4,14 +4,14 @@
 
 namespace velmora {
 
-bool OrvSettingsTableViewController::hideCell(int /*section*/, int /*row*/) const { return false; }
+bool OrvSettingsTableViewController::hideCellAtSection(int /*section*/, int /*row*/) const { return false; }
 
 void OrvSettingsTableViewController::reload() {
     std::vector<Section> sections;
-    for (int section = 0; section < rawNumberOfSections(); ++section) {
+    for (int section = 0; section < rawNumberOfSectionsInTableView(); ++section) {
         Section shown{titleForHeaderInRawSection(section), {}};
         for (int row = 0; row < rawNumberOfRowsInRawSection(section); ++row) {
-            if (!hideCell(section, row)) {
+            if (!hideCellAtSection(section, row)) {
                 shown.cells.push_back(cellForRaw(section, row));
             }
         }

@@ -20,12 +20,12 @@ public:
 
     std::string qmlFile() const override { return "SettingsTable.qml"; }
 
-    virtual int rawNumberOfSections() const = 0;
+    virtual int rawNumberOfSectionsInTableView() const = 0;
     virtual int rawNumberOfRowsInRawSection(int section) const = 0;
     virtual std::string titleForHeaderInRawSection(int section) const = 0;
     /// The row at a raw position; never null.
     virtual std::shared_ptr<OrvSettingsCell> cellForRaw(int section, int row) = 0;
-    virtual bool hideCell(int section, int row) const;
+    virtual bool hideCellAtSection(int section, int row) const;
 
     /// What is displayed.
     const std::vector<Section>& sections() const { return m_sections; }

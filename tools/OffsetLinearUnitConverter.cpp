@@ -42,17 +42,16 @@ OffsetLinearUnitConverter::OffsetLinearUnitConverter(const std::vector<std::stri
                                                      std::vector<double> zeroOffsets)
     : UnitConverter(array), m_zeroOffsets(std::move(zeroOffsets)) {}
 
-double OffsetLinearUnitConverter::convertedQuantity(double quantity, int from, int to) const {
-    if (!isUnit(from) || !isUnit(to)) {
+double OffsetLinearUnitConverter::quantity(double q, int fromUnit, int toUnit) const {
+    if (!isUnit(fromUnit) || !isUnit(toUnit)) {
         return std::numeric_limits<double>::quiet_NaN();
     }
-    const auto source = static_cast<std::size_t>(from);
-    const auto target = static_cast<std::size_t>(to);
+    const auto source = static_cast<std::size_t>(fromUnit);
+    const auto target = static_cast<std::size_t>(toUnit);
     const double result =
-        (quantity - m_zeroOffsets[source]) * unitConversions()[source] / unitConversions()[target] +
+        (q - m_zeroOffsets[source]) * unitConversions()[source] / unitConversions()[target] +
         m_zeroOffsets[target];
-    const bool vanishes =
-        quantity == kFreezingFahrenheit && std::abs(static_cast<float>(result)) < kRoundingError;
+    const bool vanishes = q == kFreezingFahrenheit && std::abs(static_cast<float>(result)) < kRoundingError;
     return vanishes ? 0 : result;
 }
 

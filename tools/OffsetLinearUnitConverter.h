@@ -16,7 +16,7 @@ public:
     const std::vector<double>& zeroOffsets() const { return m_zeroOffsets; }
     /// NaN out of range. Of an input of exactly 32 a result that is only a rounding error becomes 0, for
     /// that is how people try 32 °F; intended, although it holds for 32 of any unit of the quantity.
-    double convertedQuantity(double quantity, int from, int to) const override;
+    double quantity(double q, int fromUnit, int toUnit) const override;
 
 private:
     OffsetLinearUnitConverter(const std::vector<std::string>& array, std::vector<double> zeroOffsets);

@@ -1,11 +1,11 @@
 #include "tools/UnitConverter.h"
 
 #include "calculator/Assertion.h"
-#include "platform/Alert.h"
+#include "engine/Environment.h"
+#include "engine/Number.h"
 #include "platform/Log.h"
 #include "tools/OffsetLinearUnitConverter.h"
 
-#include <charconv>
 #include <cmath>
 #include <utility>
 
@@ -39,12 +39,15 @@ double leadingNumber(std::string_view text) {
     while (!text.empty() && text.front() == ' ') {
         text.remove_prefix(1);
     }
-    if (text.starts_with('+') && !text.starts_with("+-")) {
-        text.remove_prefix(1); // which the standard library does not read
+    const bool isNegative = text.starts_with('-');
+    if (isNegative || text.starts_with('+')) {
+        text.remove_prefix(1);
     }
-    double number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return std::isfinite(number) ? number : 0;
+    if (text.find_first_of(".0123456789") != 0) {
+        return 0; // such as "inf", which is a text here
+    }
+    const double magnitude = decimalPrefixValue(text);
+    return isNegative ? -magnitude : magnitude;
 }
 
 std::unique_ptr<UnitConverter> UnitConverter::newConverterWithArray(const std::vector<std::string>& array) {
@@ -85,7 +88,7 @@ std::optional<std::string> UnitConverter::abbreviationForUnitAtIndex(int index) 
 
 std::optional<std::string> UnitConverter::nameForQuantity(double quantity, int index) const {
     if (!isUnit(index)) {
-        presentAlert({.title = "No good!"});
+        Environment::current().raiseDebugAlert("No good!");
         return std::nullopt;
     }
     const auto unit = static_cast<std::size_t>(index);
@@ -100,8 +103,8 @@ double UnitConverter::oneOfUnitAtIndex(int from, int to) const {
            m_unitConversions[static_cast<std::size_t>(to)];
 }
 
-double UnitConverter::convertedQuantity(double quantity, int from, int to) const {
-    return quantity * oneOfUnitAtIndex(from, to);
+double UnitConverter::quantity(double q, int fromUnit, int toUnit) const {
+    return q * oneOfUnitAtIndex(fromUnit, toUnit);
 }
 
 } // namespace velmora

@@ -38,12 +38,12 @@ public:
 
     std::optional<std::string> abbreviationForUnitAtIndex(int index) const;
     /// The singular name for exactly 1 or -1 of the unit, the plural for any other quantity. Out of range
-    /// it raises a developer's alert.
+    /// it raises a debug alert.
     std::optional<std::string> nameForQuantity(double quantity, int index) const;
     /// How many of the other unit one of the unit is; 0 out of range.
     double oneOfUnitAtIndex(int from, int to) const;
-    /// 0 out of range.
-    virtual double convertedQuantity(double quantity, int from, int to) const;
+    /// So much of the one unit, in the other; 0 out of range.
+    virtual double quantity(double q, int fromUnit, int toUnit) const;
 
 protected:
     explicit UnitConverter(const std::vector<std::string>& array);
@@ -60,7 +60,8 @@ private:
     std::vector<std::string> m_unitAbbreviations;
 };
 
-/// The decimal number that a text begins with, whatever the locale; 0 when it begins with none.
+/// The decimal number that a text begins with, whatever the locale; 0 when it begins with none. Too large a
+/// number is infinite, too small a one 0.
 double leadingNumber(std::string_view text);
 
 } // namespace velmora

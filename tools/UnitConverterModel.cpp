@@ -1,10 +1,10 @@
 #include "tools/UnitConverterModel.h"
 
 #include "calculator/Assertion.h"
-#include "platform/AtomicFile.h"
 #include "platform/DocumentsFolder.h"
 #include "platform/KeyedArchive.h"
 #include "platform/Log.h"
+#include "platform/PropertyListFile.h"
 #include "platform/Resources.h"
 
 #include <algorithm>
@@ -19,21 +19,17 @@ constexpr const char* kMoreUnitsKey = "moreUnitsKey";
 constexpr const char* kMoreUnitsSetting = "moreUnits";
 constexpr int kComponents = 2;
 
-/// The texts of a quantity that are offered; nothing when the quantity itself belongs to the extended set.
+bool isExtended(const PropertyList& text) { return text.asText() && text.asText()->starts_with('+'); }
+
+/// The texts of a quantity that are offered, without the mark of the extended set.
 std::vector<std::string> offeredTexts(const PropertyArray& quantity, bool moreUnits) {
     std::vector<std::string> texts;
-    for (std::size_t i = 0; i < quantity.size(); ++i) {
-        std::string text = quantity[i].asText() ? *quantity[i].asText() : std::string();
-        if (text.starts_with('+')) {
-            if (!moreUnits && i == 0) {
-                return {};
-            }
-            if (!moreUnits) {
-                continue;
-            }
-            text.erase(0, 1);
+    for (const PropertyList& text : quantity) {
+        if (!isExtended(text)) {
+            texts.push_back(text.asText() ? *text.asText() : std::string());
+        } else if (moreUnits) {
+            texts.push_back(text.asText()->substr(1));
         }
-        texts.push_back(std::move(text));
     }
     return texts;
 }
@@ -62,14 +58,9 @@ std::optional<std::filesystem::path> UnitConverterModel::ucDataFilePath() {
 
 void UnitConverterModel::load() {
     const auto path = ucDataFilePath();
-    const auto bytes = path ? readFile(*path) : std::nullopt;
-    if (!bytes) {
-        return;
-    }
-    const auto saved = readPropertyList(*bytes);
-    if (!saved || !saved->asDictionary()) {
-        log("the unit converter's file cannot be understood");
-        setAsideDamagedFile(*path);
+    const auto saved =
+        path ? readDictionaryFile(*path, "the unit converter's file cannot be understood") : std::nullopt;
+    if (!saved) {
         return;
     }
     const KeyedUnarchiver coder(*saved);
@@ -101,7 +92,7 @@ void UnitConverterModel::save() const {
     }
     coder.encode(kUnitsKey, std::move(units));
     coder.encode(kMoreUnitsKey, m_moreUnits);
-    writeFileAtomically(*path, binaryPropertyList(coder.propertyList()));
+    writePropertyListAtomically(*path, coder.propertyList());
 }
 
 void UnitConverterModel::loadUnitConverterIfNeeded() {
@@ -116,12 +107,20 @@ void UnitConverterModel::loadUnitConverter() {
     m_unitConverterArray.clear();
     const auto resource = readPropertyListResource("Units.plist");
     const PropertyArray* quantities = resource ? resource->asArray() : nullptr;
+    if (resource && !quantities) {
+        log("the resource of units holds no list of quantities");
+    }
     for (const PropertyList& quantity : quantities ? *quantities : PropertyArray()) {
         const PropertyArray* texts = quantity.asArray();
-        const auto offered = texts ? offeredTexts(*texts, m_moreUnits) : std::vector<std::string>();
-        if (auto converter = UnitConverter::newConverterWithArray(offered)) {
+        const bool isHidden = texts && !texts->empty() && isExtended(texts->front()) && !m_moreUnits;
+        if (isHidden) {
+            continue;
+        }
+        auto converter =
+            texts ? UnitConverter::newConverterWithArray(offeredTexts(*texts, m_moreUnits)) : nullptr;
+        if (converter) {
             m_unitConverterArray.push_back(std::move(converter));
-        } else if (!offered.empty() || !texts) {
+        } else {
             log("a quantity without units was left out");
         }
     }

@@ -23,7 +23,7 @@ public:
 
     /// Where the choices are kept; nothing on a machine without a documents folder.
     static std::optional<std::filesystem::path> ucDataFilePath();
-    /// Reads the saved choices. A file that cannot be understood is kept under another name.
+    /// Reads the saved choices. A file that cannot be read or understood is kept under another name.
     void load();
     void save() const;
 

@@ -187,6 +187,16 @@ void drawSettings(const Canvas& canvas) {
     }
 }
 
+void drawHeart(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    QPainterPath heart(QPointF(12, 7.6));
+    heart.cubicTo(10.4, 3.4, 3.4, 3.6, 3.4, 9.4);
+    heart.cubicTo(3.4, 13.6, 8, 17, 12, 20.4);
+    heart.cubicTo(16, 17, 20.6, 13.6, 20.6, 9.4);
+    heart.cubicTo(20.6, 3.6, 13.6, 3.4, 12, 7.6);
+    painter.drawPath(heart);
+}
+
 void drawQuestionMark(const Canvas& canvas) {
     QPainter& painter = useLinePen(canvas);
     painter.drawEllipse(QPointF(12, 12), 9, 9);
@@ -219,6 +229,7 @@ const std::array kDrawings{
     Drawing{QLatin1String("graph.png"), drawGraph},
     Drawing{QLatin1String("reference.png"), drawReference},
     Drawing{QLatin1String("settings.png"), drawSettings},
+    Drawing{QLatin1String("heart"), drawHeart},
     Drawing{QLatin1String("questionMark.png"), drawQuestionMark},
     Drawing{QLatin1String("more"), drawMore},
 };

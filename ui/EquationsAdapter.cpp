@@ -46,9 +46,12 @@ QVariant EquationsAdapter::data(const QModelIndex& index, int role) const {
         return QVariant::fromValue(LabelAdapter(cell.variableLabel()));
     case EquationRole:
         return QVariant::fromValue(LabelAdapter(cell.equationLabel()));
+    case EqualsZeroRole:
+        return QVariant::fromValue(LabelAdapter(cell.equalsZeroLabel()));
     case SpokenRole: {
         const QString text = QString::fromStdString(cell.variableLabel().text + cell.equationLabel().text);
-        return text.endsWith(u'=') ? tr("%1 empty").arg(text) : text;
+        return (text.endsWith(u'=') ? tr("%1 empty").arg(text) : text) +
+               QString::fromStdString(cell.equalsZeroLabel().text);
     }
     default:
         return {};
@@ -56,7 +59,10 @@ QVariant EquationsAdapter::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> EquationsAdapter::roleNames() const {
-    return {{VariableRole, "variable"}, {EquationRole, "equation"}, {SpokenRole, "spoken"}};
+    return {{VariableRole, "variable"},
+            {EquationRole, "equation"},
+            {EqualsZeroRole, "equalsZero"},
+            {SpokenRole, "spoken"}};
 }
 
 void EquationsAdapter::select(int row) {

@@ -23,7 +23,7 @@ class EquationsAdapter final : public QAbstractListModel {
     Q_PROPERTY(double rowHeight READ rowHeight NOTIFY refreshed)
 
 public:
-    enum Role { VariableRole = Qt::UserRole + 1, EquationRole, SpokenRole };
+    enum Role { VariableRole = Qt::UserRole + 1, EquationRole, EqualsZeroRole, SpokenRole };
 
     EquationsAdapter(std::shared_ptr<GenericEquationsViewController> controller, SceneAdapter& scene);
     ~EquationsAdapter() override;

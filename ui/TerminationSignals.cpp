@@ -29,8 +29,14 @@ void setHandler(void (*handler)(int)) {
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    sigaction(SIGTERM, &action, nullptr);
-    sigaction(SIGINT, &action, nullptr);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction former {};
+        sigaction(signal, nullptr, &former);
+        // Whoever started the program deaf to a signal, as nohup does, wants it to stay.
+        if (former.sa_handler != SIG_IGN) {
+            sigaction(signal, &action, nullptr);
+        }
+    }
 }
 
 } // namespace

@@ -8,8 +8,8 @@ class QSocketNotifier;
 
 namespace velmora {
 
-/// Turns SIGTERM and SIGINT into the end of the event loop, so that a program that is asked to end still
-/// saves. At most one object at a time.
+/// Turns SIGTERM, SIGINT and SIGHUP (the terminal has gone) into the end of the event loop, so that a
+/// program that is asked to end still saves. A signal that is ignored stays so. At most one object at a time.
 class TerminationSignals final : public QObject {
     Q_OBJECT
 

@@ -35,6 +35,8 @@ int main(int argc, char** argv) {
         return runVelmora(argc, argv);
     } catch (const std::exception& exception) {
         velmora::log(std::string("exception: ") + exception.what());
-        return 1;
+    } catch (...) {
+        velmora::log("exception: of unknown kind");
     }
+    return 1;
 }

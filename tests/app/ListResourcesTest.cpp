@@ -49,7 +49,7 @@ protected:
 TEST_F(ListResources, areWellFormedAndExplained) {
     const auto pages = readPropertyListResource("Pages.plist");
     ASSERT_TRUE(pages && pages->asDictionary());
-    std::set<std::string> opened;
+    std::set<std::string> opened{"IfYouLikeThisAppPage"}; // by a tab of its own
     for (const char* name : kLists) {
         const FunctionList list = loadFunctionListWithName(name);
         ASSERT_GT(list.size(), kFirstFunctionListEntry) << name;

@@ -19,6 +19,15 @@
 namespace velmora::test {
 namespace {
 
+class NamedScreen final : public ViewController {
+public:
+    explicit NamedScreen(std::string name) : m_name(std::move(name)) {}
+    std::string className() const override { return m_name; }
+
+private:
+    std::string m_name;
+};
+
 class VelmoraAppDelegateTest : public testing::Test {
 public:
     VelmoraAppDelegateTest() { forgetEverything(); }
@@ -44,11 +53,8 @@ TEST_F(VelmoraAppDelegateTest, startsWithTheCalculator) {
     EXPECT_TRUE(sounds.preloaded().empty());
     EXPECT_TRUE(logged.empty());
 
-    const auto& tabs = app.tabBarController()->viewControllers();
-    ASSERT_FALSE(tabs.empty());
-    EXPECT_EQ(tabs[0]->tabTitle(), "Calculator");
-    EXPECT_EQ(tabs[0]->tabImage(), "calculator.png");
-    const auto stack = std::dynamic_pointer_cast<NavigationController>(tabs[0]);
+    const auto stack =
+        std::dynamic_pointer_cast<NavigationController>(app.tabBarController()->viewControllers().at(0));
     ASSERT_TRUE(stack);
     EXPECT_EQ(stack->topViewController(), app.calculator());
     EXPECT_TRUE(app.calculator()->hidesNavigationBar());
@@ -60,6 +66,49 @@ TEST_F(VelmoraAppDelegateTest, startsWithTheCalculator) {
     }
     EXPECT_EQ(Model::m().history().entryAtIndex(0)->resultText(), "42");
     EXPECT_EQ(SettingsTargetRegistry::shared().find("Model"), &Model::m());
+}
+
+TEST_F(VelmoraAppDelegateTest, tabsStandInTheirOrderAsFarAsTheirScreensExist) {
+    struct Tab {
+        std::string title, image, className;
+        bool mayBeMissing = false;
+    };
+    const Tab tabs[] = {
+        {"Calculator", "calculator.png", "KeyboardViewController"},
+        {"Equations", "equation.png", "EquationsViewController"},
+        {"Graph", "graph.png", "GraphViewController"},
+        {"Reference", "reference.png", "FunctionSelectViewController"},
+        {"Table", "table.png", "ValueTableViewController", true},
+        {"Triangle Solver", "triangleSolver.png", "TriangleSolverViewController", true},
+        {"Polynomial Solvers", "polynomialSolver.png", "PolynomialSolversViewController", true},
+        {"Settings", "settings.png", "SettingsViewController"},
+        {"If you like this app", "heart", "PageViewController"},
+        {"Help", "questionMark.png", "FunctionSelectViewController"}};
+    for (const bool allExist : {false, true}) {
+        std::vector<Tab> expected;
+        for (const Tab& tab : tabs) {
+            if (tab.mayBeMissing && allExist) {
+                ScreenRegistry::shared().registerScreen(
+                    tab.className, [name = tab.className] { return std::make_shared<NamedScreen>(name); });
+            }
+            if (!tab.mayBeMissing || ScreenRegistry::shared().isRegistered(tab.className)) {
+                expected.push_back(tab);
+            }
+        }
+        VelmoraAppDelegate started;
+        started.applicationDidFinishLaunching();
+        ASSERT_EQ(started.tabBarController()->viewControllers().size(), expected.size());
+        for (std::size_t place = 0; place < expected.size(); ++place) {
+            const auto shown = started.tabBarController()->viewControllers()[place];
+            const auto stack = std::dynamic_pointer_cast<NavigationController>(shown);
+            const std::string className = (stack ? stack->rootViewController() : shown)->className();
+            EXPECT_EQ(shown->tabTitle(), expected[place].title);
+            EXPECT_EQ(shown->tabImage(), expected[place].image);
+            EXPECT_EQ(className, expected[place].className);
+        }
+        EXPECT_TRUE(logged.empty());
+        forgetEverything();
+    }
 }
 
 TEST_F(VelmoraAppDelegateTest, clickIsReadyWhenSoundIsAlreadyOn) {
@@ -93,11 +142,9 @@ TEST_F(VelmoraAppDelegateTest, savesInTheBackgroundAndAtTheEnd) {
 }
 
 TEST_F(VelmoraAppDelegateTest, unitConverterOpensAgainOverTheCalculator) {
-    class Converter final : public ViewController {
-        std::string className() const override { return "UnitConvertViewController"; }
-    };
-    ScreenRegistry::shared().registerScreen("UnitConvertViewController",
-                                            [] { return std::make_shared<Converter>(); });
+    ScreenRegistry::shared().registerScreen("UnitConvertViewController", [] {
+        return std::make_shared<NamedScreen>("UnitConvertViewController");
+    });
     const TemporaryFolder home;
     PlainDocumentsFolder documents(home.path());
     const DocumentsFolderScope documentsScope(documents);

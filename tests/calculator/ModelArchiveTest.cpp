@@ -162,13 +162,25 @@ TEST_F(ModelArchive, readsDefaultsForWhatIsAbsentOrUnusable) {
         {{{"xMinForGraphKey", 2.0}, {"yMaxForGraphKey", infinity}}, "xMinForGraph", -10.0},
         {{{"iOnMainKeyboard", true}}, "iOnMainKeyboard", false},
         {{{"PickerSelectedUnitIndex", -3}}, "pickerSelectedUnitIndex", 0},
-        {{{"nHasBecomeActiveKey", std::int64_t{1} << 40}}, "nHasBecomeActive", kMost}};
+        {{{"thetaStartForPolarGraph", 2.0}, {"thetaEndForPolarGraph", infinity}},
+         "thetaStartForPolarGraph",
+         0.0},
+        {{{"tStartForParametricGraph", -infinity}, {"tEndForParametricGraph", 7.0}},
+         "tEndForParametricGraph",
+         1.0},
+        {{{"tStartForParametricGraph", "2"}, {"tEndForParametricGraph", 7.0}}, "tEndForParametricGraph", 7.0},
+        {{{"nHasBecomeActiveKey", kMost}}, "nHasBecomeActive", kMost},
+        {{{"nHasBecomeActiveKey", std::int64_t{1} << 40}}, "nHasBecomeActive", 0},
+        {{{"nHasBecomeActiveKey", -1}}, "nHasBecomeActive", 0}};
     PlainDevice tablet(DeviceClass::Tablet);
     const DeviceScope scope(tablet);
     for (const auto& [archive, property, value] : rows) {
         EXPECT_EQ(loaded(archive).valueForKey(property), value) << property;
         EXPECT_EQ(Model::m().inequalityArray().size(), 4U);
     }
+    loaded({{"nHasBecomeActiveKey", kMost}}).addActivations(1); // no sum may overflow
+    loadArchivedModel(Model::m(), PropertyList(PropertyDictionary{{"nHasBecomeActiveKey", kMost}}));
+    EXPECT_EQ(Model::m().nHasBecomeActive(), kMost);
     freshModel();
     Settings first = settings();
     fill(Model::m());
@@ -193,15 +205,19 @@ TEST_F(ModelArchive, valuesRowsWithoutOneOnceAllIsRead) {
 }
 
 TEST_F(ModelArchive, setsAsideAFileItCannotRead) {
-    for (const char* bytes : {"no archive", "bplist00", "<plist><array/></plist>"}) {
+    for (const char* bytes : {"no archive", "bplist00", "<plist><array/></plist>", "a folder"}) {
         const LogRecorder log;
-        writeFileAtomically(file(), std::string_view(bytes));
+        if (std::string_view(bytes) == "a folder") {
+            std::filesystem::create_directory(file());
+        } else {
+            writeFileAtomically(file(), std::string_view(bytes));
+        }
         freshModel().load();
         EXPECT_THAT(log.lines(), testing::Contains("catch"));
         EXPECT_FALSE(std::filesystem::exists(file()));
         EXPECT_EQ(Model::m().displayDigits(), 5);
     }
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(home.path()), {}), 3);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(home.path()), {}), 4);
 }
 
 TEST_F(ModelArchive, survivesEveryFlippedBitAndEveryTruncation) {

@@ -141,7 +141,7 @@ TEST(ExpressionList, loadsWhatFilesHold) {
         EXPECT_EQ(lines(list), row.loaded) << row.what;
         EXPECT_EQ(list.maxExpressions(), row.max);
         ExpressionList again(row.max, row.n);
-        again.loadWithObject(list.archivedEntries());
+        again.loadWithObject(list.expressionTokenArrays());
         EXPECT_EQ(lines(again), row.loaded) << row.what;
     }
     // Loaded texts are tokens, so they parse.

@@ -95,6 +95,9 @@ TEST(LevelCurveHeightsList, keepsHeightsBesideItsFunctions) {
         ASSERT_EQ(read.levelCurveHeightsArray().size(), 4U);
         EXPECT_EQ(read.levelCurveHeightsAtIndex(1)->n(), 7);
         EXPECT_EQ(read.levelCurveHeightsAtIndex(3)->n(), saved == 2 ? 1 : 7);
+        read.loadHeights(PropertyArray{"no heights", PropertyArray()});
+        EXPECT_EQ(*read.levelCurveHeightsAtIndex(0), LevelCurveHeights());
+        EXPECT_EQ(*read.levelCurveHeightsAtIndex(1), LevelCurveHeights());
     }
 }
 

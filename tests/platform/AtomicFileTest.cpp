@@ -1,6 +1,7 @@
 #include "platform/AtomicFile.h"
 
 #include "platform/DocumentsFolder.h"
+#include "platform/PropertyListFile.h"
 #include "tests/platform/LogRecorder.h"
 #include "tests/platform/TemporaryFolder.h"
 
@@ -74,6 +75,28 @@ TEST(AtomicFile, setsDamagedFilesAsideOneByOne) {
     EXPECT_EQ(setAsideDamagedFile(file), std::nullopt);
     EXPECT_EQ(log.lines().size(), 1U);
     EXPECT_EQ(entryCount(folder.path()), 3);
+}
+
+TEST(PropertyListFile, losesNothingThatItCannotReadOrWrite) {
+    const TemporaryFolder folder;
+    const LogRecorder log;
+    const fs::path file = folder.path() / "state";
+    EXPECT_EQ(readDictionaryFile(file, "catch"), std::nullopt);
+    EXPECT_TRUE(log.lines().empty()) << "a first start is no fault";
+    const PropertyList state(PropertyDictionary{{"key", 1}});
+    EXPECT_TRUE(writePropertyListAtomically(file, state));
+    PropertyList tooDeep(1);
+    for (int depth = 0; depth <= kMaximumPropertyListDepth; ++depth) {
+        tooDeep = PropertyArray{tooDeep};
+    }
+    EXPECT_FALSE(writePropertyListAtomically(file, tooDeep));
+    EXPECT_EQ(readDictionaryFile(file, "catch"), state);
+    fs::remove(file);
+    fs::create_directories(file / "inner"); // which opens, and cannot be read
+    EXPECT_EQ(readDictionaryFile(file, "catch"), std::nullopt);
+    EXPECT_EQ(log.lines().back(), "catch");
+    EXPECT_TRUE(fs::is_directory(folder.path() / "state (damaged)" / "inner"));
+    EXPECT_TRUE(writePropertyListAtomically(file, state));
 }
 
 TEST(AtomicFile, clearsAwayWhatAKilledWriterLeft) {

@@ -91,6 +91,16 @@ TEST_F(Navigation, refusesWhatCannotBeStacked) {
     EXPECT_EQ(other.pop(), nullptr);
 }
 
+TEST_F(Navigation, keepsTheNameOfTheWayBackWhenTheRootIsReplaced) {
+    a->setBackButtonTitle("Cancel");
+    stack.push(screen("editor"));
+    stack.replaceRoot(screen("b"));
+    EXPECT_EQ(stack.rootViewController()->backButtonTitle(), "Cancel");
+    stack.popToRoot();
+    stack.replaceRoot(screen("c")); // from which nothing leads back
+    EXPECT_EQ(stack.rootViewController()->backButtonTitle(), "");
+}
+
 TEST_F(Navigation, clearsTheBackReferenceOfWhatLeaves) {
     const auto b = screen("b");
     stack.push(b);

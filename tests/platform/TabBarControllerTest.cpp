@@ -129,6 +129,28 @@ TEST_F(TabBar, tellsOfEachChangeOnce) {
     EXPECT_EQ(bar.selectedIndex(), 1U);
 }
 
+TEST_F(TabBar, turnsOnlyWhereEveryScreenOfTheSelectedTabAllows) {
+    using enum Orientation;
+    const auto top = std::make_shared<RecordingScreen>("top", events);
+    stack->push(top);
+    struct TurnCase {
+        std::optional<Orientation> root, top;
+        bool more, upright, onItsSide;
+    };
+    const TurnCase cases[] = {{{}, {}, false, true, true},
+                              {Portrait, {}, false, true, false},
+                              {{}, LandscapeLeft, false, false, true},
+                              {Portrait, LandscapeLeft, false, false, false},
+                              {Portrait, {}, true, true, false}}; // the list stands in for the tab
+    for (const TurnCase& c : cases) {
+        dynamic_cast<RecordingScreen&>(*root).allowed = c.root;
+        top->allowed = c.top;
+        EXPECT_EQ(c.more && bar.showMoreList(), c.more);
+        EXPECT_EQ(bar.shouldAutorotate(Portrait), c.upright);
+        EXPECT_EQ(bar.shouldAutorotate(LandscapeLeft), c.onItsSide);
+    }
+}
+
 TEST_F(TabBar, takesOtherTabs) {
     const LogRecorder log;
     bar.setSelectedIndex(1);

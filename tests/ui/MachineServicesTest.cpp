@@ -112,10 +112,19 @@ TEST(WindowLife, countsActivationsAndSavesInTheBackground) {
 }
 
 TEST(TerminationSignals, turnASignalIntoARequest) {
+    constexpr int signals[] = {SIGTERM, SIGINT, SIGHUP};
+    {
+        std::signal(SIGHUP, SIG_IGN); // as under nohup
+        const TerminationSignals deafToOne;
+        EXPECT_EQ(std::signal(SIGHUP, SIG_IGN), SIG_IGN);
+    }
+    for (const int signal : signals) {
+        std::signal(signal, SIG_DFL);
+    }
     const TerminationSignals termination;
     int requests = 0;
     QObject::connect(&termination, &TerminationSignals::requested, &termination, [&] { ++requests; });
-    for (const int signal : {SIGTERM, SIGINT}) {
+    for (const int signal : signals) {
         requests = 0;
         std::raise(signal);
         EXPECT_EQ(requests, 0); // nothing runs inside the handler

@@ -3,6 +3,7 @@
 #include "tests/ui/RunningProgram.h"
 
 #include "calculator/Model.h"
+#include "platform/ScreenMetrics.h"
 #include "platform/ScreenRegistry.h"
 
 #include <QAccessible>
@@ -23,6 +24,13 @@ protected:
     void picture(const char* name) {
         program.takePicture(utf8(name) + u'-' + QString::number(GetParam().width()) + u'x' +
                             QString::number(GetParam().height()));
+    }
+    /// The first settings allow no other orientation, whatever screen shows when the window turns.
+    void expectUprightInATurnedWindow() {
+        program.resize(GetParam().transposed());
+        const Size scene = screenMetrics().screenSize();
+        EXPECT_GT(scene.height, scene.width);
+        program.resize(GetParam());
     }
     void openSettings() {
         program.click(utf8("More"));
@@ -128,6 +136,11 @@ TEST_P(Screens, equationsAreEditedSavedAndRefused) {
     program.press(Qt::Key_Return);
     EXPECT_TRUE(program.isOnScreen(utf8("r2(θ)=2")));
     picture("equations-polar");
+    program.click(utf8("Range")); // which functions have no use for
+    openSettings();
+    Model::m().setGraphType(0);
+    program.click(utf8("Equations"));
+    EXPECT_TRUE(program.isOnScreen(utf8("y1(x)=2x^3-x/5+1")));
 }
 
 TEST_P(Screens, everythingIsThereAgainAfterAKillInTheBackground) {
@@ -153,6 +166,7 @@ TEST_P(Screens, everythingIsThereAgainAfterAKillInTheBackground) {
 TEST_P(Screens, helpIsRead) {
     program.click(utf8("More"));
     picture("more");
+    expectUprightInATurnedWindow();
     program.click(utf8("Help"));
     picture("help");
     program.click(utf8("Getting started"));
@@ -161,6 +175,9 @@ TEST_P(Screens, helpIsRead) {
     program.click(utf8("Back to Help"));
     program.click(utf8("Back to More"));
     EXPECT_TRUE(program.isOnScreen(utf8("Settings")));
+    program.click(utf8("If you like this app"));
+    picture("like");
+    EXPECT_TRUE(program.isOnScreen(utf8("Back to More")));
 }
 
 TEST_P(Screens, everySettingIsChangedOnItsRow) {
@@ -201,6 +218,7 @@ TEST_P(Screens, everySettingIsChangedOnItsRow) {
         program.scrollTo(utf8(row.row));
         program.click(utf8(row.row));
         picture(row.choice);
+        expectUprightInATurnedWindow();
         program.click(utf8(row.choice));
         EXPECT_EQ((model.*row.get)(), row.after) << row.row;
     }

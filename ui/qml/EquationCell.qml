@@ -8,6 +8,7 @@ TableRow {
     required property int index
     required property var variable
     required property var equation
+    required property var equalsZero
     required property string spoken
 
     color: pressed ? Theme.pressed : "black"
@@ -18,4 +19,5 @@ TableRow {
 
     LabelText { label: root.variable }
     LabelText { label: root.equation }
+    LabelText { label: root.equalsZero }
 }
