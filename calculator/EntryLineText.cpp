@@ -111,6 +111,9 @@ std::string textFittedToLabel(const EntryLineText& text, const LabelRecord& labe
 }
 
 std::string linesInLabel(const EntryLineText& text, const LabelRecord& label) {
+    if (label.lineCount == 1) {
+        return textFittedToLabel(text, label);
+    }
     const WrappedText wrapped(textFittedToLabel(text, label), label);
     const LinesShown shown = linesShown(text, wrapped, label);
     return wrapped.lines(shown.first, shown.count);

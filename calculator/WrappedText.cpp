@@ -4,6 +4,7 @@
 #include "platform/Utf8.h"
 
 #include <algorithm>
+#include <map>
 
 namespace velmora {
 
@@ -15,8 +16,13 @@ constexpr std::string_view kBlank = " ";
 
 WrappedText::WrappedText(std::string_view text, const LabelRecord& label)
     : m_characters(splitCodePoints(text)), m_lineStarts{0} {
+    std::map<std::string_view, double> known; // measuring costs, and a line repeats few characters
     for (const std::string& character : m_characters) {
-        m_widths.push_back(textWidth(character, label.fontSize, label.fontName));
+        const auto [entry, isNew] = known.try_emplace(character, 0);
+        if (isNew) {
+            entry->second = textWidth(character, label.fontSize, label.fontName);
+        }
+        m_widths.push_back(entry->second);
     }
     double x = 0;
     std::size_t behindBlank = 0; // where the present line can break best; its start when nowhere
