@@ -6,6 +6,7 @@
 #include "engine/UnivarTable.h"
 #include "platform/Alert.h"
 #include "platform/NavigationController.h"
+#include "platform/Utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -15,10 +16,14 @@ namespace velmora {
 namespace {
 
 // What means something by itself in a line.
-constexpr std::array<std::string_view, 9> kOtherNames{"x", "y", "t",   "θ",          "e",
-                                                      "i", "π", "ans", "conditional"};
+constexpr std::array<std::string_view, 11> kOtherNames{"x", "y", "t", "θ",   "e",          "E",
+                                                       "i", "N", "π", "ans", "conditional"};
 
-constexpr std::string_view kForbiddenCharacters = "()[]{},= \t\n";
+constexpr std::string_view kBlanks = " \t\r\n";
+// Each would be read as something else in a line that shows the name.
+constexpr std::array<std::string_view, 28> kForbiddenCharacters{
+    "(", ")", "[", "]", "{", "}", ",", "=", "<", ">", "≤", "≥",  "@",  "_",
+    "+", "-", "−", "*", "×", "·", "/", "÷", "^", "!", " ", "\t", "\r", "\n"};
 
 NamedExpressionList& constants() { return Model::m().constants(); }
 
@@ -39,23 +44,32 @@ bool isNameOfAnother(const std::string& name, int slot) {
     return false;
 }
 
+bool isPiInAnyCase(const std::string& name) {
+    return name.size() == 2 && (name[0] == 'p' || name[0] == 'P') && (name[1] == 'i' || name[1] == 'I');
+}
+
 std::string trimmed(const std::string& text) {
-    constexpr const char* blanks = " \t\r\n";
-    const auto first = text.find_first_not_of(blanks);
+    const auto first = text.find_first_not_of(kBlanks);
     return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+                                      : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
 } // namespace
 
 std::string reasonAgainstConstantName(const std::string& name, int slot) {
-    if (name.find_first_of(kForbiddenCharacters) != std::string::npos) {
-        return "A name holds no brackets, commas, blanks or equals signs.";
+    if (name.find_first_of(".0123456789") == 0) {
+        return "A name begins with neither a digit nor a point.";
+    }
+    for (const std::string& character : splitCodePoints(name)) {
+        if (std::ranges::find(kForbiddenCharacters, character) != kForbiddenCharacters.end()) {
+            const bool isBlank = kBlanks.find(character) != std::string_view::npos;
+            return "A name cannot hold " + (isBlank ? "a blank" : "“" + character + "”") + ".";
+        }
     }
     if (isFunctionName(name)) {
         return "“" + name + "” is the name of a function.";
     }
-    if (std::ranges::find(kOtherNames, name) != kOtherNames.end()) {
+    if (std::ranges::find(kOtherNames, name) != kOtherNames.end() || isPiInAnyCase(name)) {
         return "“" + name + "” already has a meaning of its own.";
     }
     if (isNameOfAnother(name, slot)) {
@@ -79,7 +93,9 @@ std::string ConstantEditViewController::name() const {
 
 bool ConstantEditViewController::setName(const std::string& text) {
     const std::string newName = trimmed(text);
-    const std::string reason = newName.empty() ? std::string() : reasonAgainstConstantName(newName, m_slot);
+    // A name that came with a file stays, whatever it holds.
+    const bool isNew = !newName.empty() && newName != name();
+    const std::string reason = isNew ? reasonAgainstConstantName(newName, m_slot) : std::string();
     if (!reason.empty()) {
         presentAlert({.title = "This name cannot be used", .message = reason});
         m_contentsChanged.emit(); // the former name shows again

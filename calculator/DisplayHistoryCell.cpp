@@ -26,12 +26,11 @@ void DisplayHistoryCell::layout(Size size) {
     m_outputLabel.alignment = TextAlignment::Right;
     for (LabelRecord* label : {&m_inputLabel, &m_outputLabel}) {
         label->fontSize = size.height * kFontSizeOfDesign / kRowHeightOfDesign;
-        label->textColor = Color::white(1);
     }
     const double quarter = size.width / 4;
     const double rightWidth = quarter * static_cast<double>(m_rightButtonWidthMultiplier);
-    m_leftButtonFrame = {0, 0, quarter, size.height};
-    m_rightButtonFrame = {size.width - rightWidth, 0, rightWidth, size.height};
+    m_leftButton.frame = {0, 0, quarter, size.height};
+    m_rightButton.frame = {size.width - rightWidth, 0, rightWidth, size.height};
 }
 
 void DisplayHistoryCell::buttonPressed(bool left) const {

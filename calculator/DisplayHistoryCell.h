@@ -1,8 +1,6 @@
 #pragma once
 
-#include "platform/Color.h"
-#include "platform/Geometry.h"
-#include "toolkit/LabelRecord.h"
+#include "calculator/DisplayCell.h"
 
 namespace velmora {
 
@@ -10,8 +8,14 @@ class DisplayHistoryTableViewController;
 
 /// A row of the history: the line on the left above its result on the right, and an invisible button over
 /// each end of the row.
-class DisplayHistoryCell {
+class DisplayHistoryCell final : public DisplayCell {
 public:
+    /// An invisible button over one end of the row.
+    struct EndButton {
+        Rect frame;
+        const char* accessibleName;
+    };
+
     static constexpr const char* kReuseIdentifier = "DisplayHistoryCell";
 
     /// The cell of a table row, which counts the tip row.
@@ -19,18 +23,14 @@ public:
         : m_table(table), m_row(row) {}
 
     void setTexts(std::string input, std::string output);
-    /// Lays out a row of that size, in points.
-    void layout(Size size);
+    void layout(Size size) override;
 
     const LabelRecord& inputLabel() const { return m_inputLabel; }
     const LabelRecord& outputLabel() const { return m_outputLabel; }
-    const Rect& leftButtonFrame() const { return m_leftButtonFrame; }
-    const Rect& rightButtonFrame() const { return m_rightButtonFrame; }
-    static constexpr const char* kLeftButtonAccessibleName = "insert expression";
-    static constexpr const char* kRightButtonAccessibleName = "insert result";
+    const EndButton& leftButton() const { return m_leftButton; }
+    const EndButton& rightButton() const { return m_rightButton; }
     float rightButtonWidthMultiplier() const { return m_rightButtonWidthMultiplier; }
     void setRightButtonWidthMultiplier(float multiplier) { m_rightButtonWidthMultiplier = multiplier; }
-    Color backgroundColor() const { return Color::white(0); }
     int row() const { return m_row; }
 
     /// A touch has ended inside the left or the right button: announces
@@ -40,10 +40,10 @@ public:
 private:
     const DisplayHistoryTableViewController* m_table;
     int m_row;
-    LabelRecord m_inputLabel;
-    LabelRecord m_outputLabel;
-    Rect m_leftButtonFrame;
-    Rect m_rightButtonFrame;
+    LabelRecord m_inputLabel = newLabel();
+    LabelRecord m_outputLabel = newLabel();
+    EndButton m_leftButton{{}, "insert expression"};
+    EndButton m_rightButton{{}, "insert result"};
     float m_rightButtonWidthMultiplier = 1.0F;
 };
 

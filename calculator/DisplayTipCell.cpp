@@ -13,7 +13,6 @@ constexpr double kSmallestFontSize = 10;
 
 DisplayTipCell::DisplayTipCell() {
     m_tipLabel.text = "TIP:  Settings are available on the \"More\" tab.";
-    m_tipLabel.textColor = Color::white(1);
     m_tipLabel.lineCount = 0;
     m_tipLabel.truncation = TextTruncation::WordWrap;
     m_tipLabel.minimumFontSize = kSmallestFontSize;

@@ -1,6 +1,7 @@
 #include "calculator/EntryLineText.h"
 
 #include "calculator/Entering.h"
+#include "calculator/WrappedText.h"
 #include "engine/ExpressionList.h"
 #include "engine/ExpressionWithLevelCurveHeightsList.h"
 #include "engine/ExpressionWithTokenArray.h"
@@ -9,6 +10,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -19,33 +22,22 @@ double widthInLabel(std::string_view text, const LabelRecord& label) {
     return textWidth(text, label.fontSize, label.fontName);
 }
 
-/// A place in wrapped text: the line, counted from 0, and the distance from the line's start.
-struct Place {
-    int line = 0;
-    double x = 0;
+/// The lines that a label shows of a text that may have more than its frame holds.
+struct LinesShown {
+    int first = 0;
+    int count = 1;
 };
 
-/// Walks through text as it is drawn, breaking lines between any two characters.
-class TextWalk {
-public:
-    explicit TextWalk(const LabelRecord& label) : m_label(label) {}
-
-    void walk(std::string_view text) {
-        for (const std::string& character : splitCodePoints(text)) {
-            const double width = widthInLabel(character, m_label);
-            if (m_label.lineCount != 1 && m_place.x > 0 && m_place.x + width > m_label.frame.width) {
-                ++m_place.line;
-                m_place.x = 0;
-            }
-            m_place.x += width;
-        }
-    }
-    const Place& place() const { return m_place; }
-
-private:
-    const LabelRecord& m_label;
-    Place m_place;
-};
+LinesShown linesShown(const EntryLineText& text, const WrappedText& wrapped, const LabelRecord& label) {
+    const double lineHeight = textLineHeight(label.fontSize, label.fontName);
+    const double held = lineHeight > 0 ? std::floor(label.frame.height / lineHeight) : 1;
+    const int most =
+        label.lineCount > 0 ? std::min(label.lineCount, wrapped.lineCount()) : wrapped.lineCount();
+    const int count = std::max(1, static_cast<int>(std::min(held, static_cast<double>(most))));
+    const std::size_t cursor = codePointCount(text.prefix) + codePointCount(text.beforeCursor);
+    const int lineOfCursor = wrapped.placeBefore(cursor).line;
+    return {std::min(lineOfCursor, wrapped.lineCount() - count), count};
+}
 
 /// Where the text begins: one line too wide gives way at its head, so its end stands at the right.
 double startOfLine(const LabelRecord& label, double lineWidth) {
@@ -54,14 +46,37 @@ double startOfLine(const LabelRecord& label, double lineWidth) {
     return fromTheRight ? label.frame.x + label.frame.width - lineWidth : label.frame.x;
 }
 
-int lineAtHeight(double y, const LabelRecord& label, int lines) {
+int lineAtHeight(double y, const LabelRecord& label, const LinesShown& shown) {
     const double lineHeight = textLineHeight(label.fontSize, label.fontName);
     if (!(lineHeight > 0)) {
-        return 0;
+        return shown.first;
     }
-    const double top = label.frame.y + (label.frame.height - lines * lineHeight) / 2;
+    const double top = label.frame.y + (label.frame.height - shown.count * lineHeight) / 2;
     const double line = std::floor((y - top) / lineHeight);
-    return static_cast<int>(std::clamp(line, 0.0, static_cast<double>(lines - 1)));
+    return shown.first + static_cast<int>(std::clamp(line, 0.0, static_cast<double>(shown.count - 1)));
+}
+
+/// How many characters stand before each gap between tokens, up to the last gap that is shown.
+std::vector<std::size_t> charactersBeforeGaps(const EntryLineText& text,
+                                              const ExpressionWithTokenArray& buffer, bool endsAtCursor) {
+    const int lastGap = endsAtCursor ? buffer.cursorPosition() : buffer.count();
+    std::vector<std::size_t> counts{endsAtCursor ? 0 : codePointCount(text.prefix)};
+    for (int gap = 1; gap <= lastGap; ++gap) {
+        const bool isBehindCursorMark = gap - 1 == buffer.cursorPosition();
+        const TokenElement& token = buffer.tokenArray()[static_cast<std::size_t>(gap - 1)];
+        counts.push_back(counts.back() + (isBehindCursorMark ? 1 : 0) +
+                         codePointCount(token.toDisplayString()));
+    }
+    return counts;
+}
+
+/// Lines first, then points; from another line the nearest place is the one that is read last before it, or
+/// first behind it.
+std::pair<int, double> distance(const WrappedText::Place& place, int line, double x) {
+    if (place.line == line) {
+        return {0, std::abs(place.x - x)};
+    }
+    return place.line < line ? std::pair(line - place.line, -place.x) : std::pair(place.line - line, place.x);
 }
 
 } // namespace
@@ -95,37 +110,34 @@ std::string textFittedToLabel(const EntryLineText& text, const LabelRecord& labe
     return whole;
 }
 
+std::string linesInLabel(const EntryLineText& text, const LabelRecord& label) {
+    if (label.lineCount == 1) {
+        return textFittedToLabel(text, label);
+    }
+    const WrappedText wrapped(textFittedToLabel(text, label), label);
+    const LinesShown shown = linesShown(text, wrapped, label);
+    return wrapped.lines(shown.first, shown.count);
+}
+
 int tokenGapAtPoint(Point point, const LabelRecord& label, const EntryLineText& text,
                     const ExpressionWithTokenArray& buffer) {
-    const bool endsAtCursor = textFittedToLabel(text, label) != text.whole();
-    const bool showsCursorMark = !endsAtCursor && buffer.cursorPosition() < buffer.count();
-    const int lastGap = endsAtCursor ? buffer.cursorPosition() : buffer.count();
-
-    TextWalk walk(label);
-    if (!endsAtCursor) {
-        walk.walk(text.prefix);
-    }
-    std::vector<Place> gaps{walk.place()};
-    for (int gap = 1; gap <= lastGap; ++gap) {
-        if (showsCursorMark && gap - 1 == buffer.cursorPosition()) {
-            walk.walk("_");
+    const std::string fitted = textFittedToLabel(text, label);
+    const WrappedText wrapped(fitted, label);
+    const int line = lineAtHeight(point.y, label, linesShown(text, wrapped, label));
+    const double x = point.x - startOfLine(label, wrapped.placeBefore(wrapped.characterCount()).x);
+    int nearest = 0;
+    std::pair<int, double> smallest{std::numeric_limits<int>::max(), 0};
+    const auto gaps = charactersBeforeGaps(text, buffer, fitted != text.whole());
+    for (std::size_t gap = 0; gap < gaps.size(); ++gap) {
+        // A gap where a line breaks is in reach from both lines.
+        for (const auto& place : {wrapped.placeBefore(gaps[gap]), wrapped.placeBehindPrevious(gaps[gap])}) {
+            if (distance(place, line, x) < smallest) {
+                smallest = distance(place, line, x);
+                nearest = static_cast<int>(gap);
+            }
         }
-        walk.walk(buffer.tokenArray()[static_cast<std::size_t>(gap - 1)].toDisplayString());
-        gaps.push_back(walk.place());
     }
-    if (!endsAtCursor) {
-        walk.walk(text.suffix);
-    }
-
-    const int line = lineAtHeight(point.y, label, walk.place().line + 1);
-    const double x = point.x - startOfLine(label, walk.place().x);
-    const auto nearest = std::ranges::min_element(gaps, [&](const Place& first, const Place& second) {
-        const int firstLines = std::abs(first.line - line);
-        const int secondLines = std::abs(second.line - line);
-        return firstLines != secondLines ? firstLines < secondLines
-                                         : std::abs(first.x - x) < std::abs(second.x - x);
-    });
-    return static_cast<int>(nearest - gaps.begin());
+    return nearest;
 }
 
 } // namespace velmora

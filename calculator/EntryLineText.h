@@ -29,8 +29,11 @@ EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, int entering
 /// the latter, so that the end on screen is where the next key goes. A label of more lines shows the whole.
 std::string textFittedToLabel(const EntryLineText& text, const LabelRecord& label);
 
-/// The gap between tokens (0 to count) nearest to a point of the label, which must show this text. Long
-/// lines wrap between any two characters.
+/// What the label draws: that text, wrapped into as many lines as its frame holds, with line feeds between
+/// them. Of more lines it shows the last ones, or those from the cursor's line on.
+std::string linesInLabel(const EntryLineText& text, const LabelRecord& label);
+
+/// The gap between tokens (0 to count) nearest to a point of the label, which must show this text.
 int tokenGapAtPoint(Point point, const LabelRecord& label, const EntryLineText& text,
                     const ExpressionWithTokenArray& buffer);
 

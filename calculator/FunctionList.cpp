@@ -39,6 +39,7 @@ FunctionList userdefinedExpressionsList(const FunctionList& list) {
 
 FunctionList equationsFunctionList(const FunctionList& list) {
     FunctionList equations = starterArrayForUserDefined(list);
+    equations.resize(kFirstFunctionListEntry, kEquationsListName); // entries stand behind marker and title
     for (int number = 1; number <= kEquationCount; ++number) {
         const std::string name = "y" + std::to_string(number);
         equations.push_back(functionListEntry(name + "(", name + " from equations tab"));

@@ -33,7 +33,7 @@ PropertyList functionListEntry(PropertyList content, std::string hint);
 FunctionList starterArrayForUserDefined(const FunctionList& list);
 /// The list's first two items and one entry for each of the user's constants, "@k1" to "@k50".
 FunctionList userdefinedExpressionsList(const FunctionList& list);
-/// The list's first two items and "y1(" to "y4(".
+/// The list's first two items, "Equations" for those it lacks, and "y1(" to "y4(".
 FunctionList equationsFunctionList(const FunctionList& list);
 /// userdefinedExpressionsList where the marker asks for it, otherwise the list itself.
 FunctionList possiblySetUserdefinedFunctionList(FunctionList list);

@@ -44,7 +44,7 @@ FunctionListRow rowOfText(const std::string& content, const std::string& hint) {
         return {.kind = Greeting, .title = without(content, kGreetingMark), .detail = hint};
     }
     if (content.find(kHeadingMark) != std::string::npos) {
-        return {.kind = Heading, .title = listed(without(content, kHeadingMark)), .detail = hint};
+        return {.kind = Heading, .title = listed(without(content, kHeadingMark))};
     }
     const bool uncertain = isConstantWithUncertainFinalDigit(content);
     return {.kind = Insert,

@@ -38,9 +38,12 @@ constexpr std::string_view kTypedAsTheyAre = "0123456789.+-*/^(),<>";
 
 /// Letters, and whatever else is no control character: it may stand in a name that the user gave.
 bool mayStandInAName(std::string_view text) {
-    constexpr char kDelete = '\x7f';
-    return text == firstCodePoint(text) && !text.empty() &&
-           (text[0] < 0 || (text[0] > ' ' && text[0] < kDelete));
+    constexpr unsigned char kDelete = 0x7f;
+    if (text.empty() || text != firstCodePoint(text)) {
+        return false;
+    }
+    const auto first = static_cast<unsigned char>(text.front()); // char has a sign on some machines only
+    return first > ' ' && first != kDelete;
 }
 
 } // namespace

@@ -28,7 +28,13 @@ bool continuesLastAnswer(const std::string& text) {
 } // namespace
 
 void KeyboardViewController::buttonPressedWithText(const std::string& text) {
-    if (!m_displayModel || text.empty() || continueTypedName(text)) {
+    if (m_displayModel && !text.empty() && !continueTypedName(text)) {
+        insertText(text);
+    }
+}
+
+void KeyboardViewController::insertText(const std::string& text) {
+    if (!m_displayModel || text.empty()) {
         return;
     }
     if (m_displayModel->count() == 0 && continuesLastAnswer(text)) {
@@ -61,19 +67,25 @@ void KeyboardViewController::insertANS() {
     updateDisplay();
 }
 
+// Nothing that was chosen on another screen is lost, nor are letters that wait in the line: those that spell
+// no name yet go on waiting behind it, with a notice.
+
 void KeyboardViewController::functionSelected(const std::string& text) {
+    finishTypedName();
     endPressCounts();
-    buttonPressedWithText(text);
+    insertText(text);
     updateDisplay();
 }
 
 void KeyboardViewController::namedExpressionSelected(TokenElement token) {
+    finishTypedName();
     endPressCounts();
     insertElement(std::move(token));
     updateDisplay();
 }
 
 void KeyboardViewController::numberEntered(ComplexValue value) {
+    finishTypedName();
     endPressCounts();
     insertElement(std::shared_ptr<const Expression>(std::make_shared<Number>(value)));
     updateDisplay();

@@ -152,7 +152,7 @@ void KeyboardView::createButtons() {
 
 void KeyboardView::setUpButton(CalculatorButton& button, const std::string& character) {
     const KeyRow row = keyRow(character);
-    const std::string title = titleStringWithCharacter(character);
+    const std::string title = titleStringWithUnichar(character);
     const std::string colour = colourClass(character, m_entering);
     KeyAppearance appearance;
     appearance.shown = true;
@@ -207,9 +207,10 @@ void KeyboardView::updateDisplay() {
         return;
     }
     LabelRecord& entry = m_currentEntryLabel.record();
-    entry.text = textFittedToLabel(entryLineText(*m_displayModel, m_entering, m_target,
-                                                 m_enteringWhichEquation, m_controller.typedName()),
-                                   entry);
+    const EntryLineText text = entryLineText(*m_displayModel, m_entering, m_target, m_enteringWhichEquation,
+                                             m_controller.typedName());
+    entry.text = textFittedToLabel(text, entry);
+    m_currentEntryLines = linesInLabel(text, entry);
     if (KeyboardScreen* screen = m_controller.screen()) {
         screen->showEntry();
     }
@@ -331,7 +332,7 @@ std::string KeyboardView::decimalButtonTitle() const {
     return sharesKey ? ". i" : ".";
 }
 
-std::string KeyboardView::titleStringWithCharacter(const std::string& character) const {
+std::string KeyboardView::titleStringWithUnichar(const std::string& character) const {
     if (character == ".") {
         return decimalButtonTitle();
     }

@@ -63,6 +63,8 @@ public:
 
     CalculatorLabel& currentEntryLabel() { return m_currentEntryLabel; }
     const CalculatorLabel& currentEntryLabel() const { return m_currentEntryLabel; }
+    /// The entry label's text as it is drawn, with a line feed at the end of each line but the last.
+    const std::string& currentEntryLines() const { return m_currentEntryLines; }
     const LabelRecord& backingLabel() const { return m_backingLabel; }
     Color backgroundColor() const { return Color::white(0.2); }
 
@@ -80,7 +82,7 @@ public:
     int tokenGapAtPoint(Point point) const;
     /// "." or ". i", the title of the point's key.
     std::string decimalButtonTitle() const;
-    std::string titleStringWithCharacter(const std::string& character) const;
+    std::string titleStringWithUnichar(const std::string& character) const;
     /// The adjusted layout string.
     std::string buttonLayoutString() const;
 
@@ -115,6 +117,7 @@ private:
     std::shared_ptr<CalculatorButton> m_equalsButton;
     std::string m_equalsBackgroundImageName;
     CalculatorLabel m_currentEntryLabel;
+    std::string m_currentEntryLines;
     LabelRecord m_backingLabel;
 };
 

@@ -71,7 +71,7 @@ public:
     void parenEqualsButtonPressed(CalculatorButton& button);
     void equalsButtonPressed();
 
-    // Called by screens that were opened from here.
+    // Called by screens that were opened from here, and by the lists of other tabs.
     void functionSelected(const std::string& text);
     void namedExpressionSelected(TokenElement token);
     void numberEntered(ComplexValue value);
@@ -115,6 +115,7 @@ public:
 private:
     void displayTableViewButtonPressed(const Notification& notification);
     void endPressCounts();
+    void insertText(const std::string& text);
     void insertElement(TokenElement token);
     void playClick() const;
     void typeWithoutKey(const std::string& text);

@@ -61,6 +61,10 @@ public:
     bool pressRightBarButton(std::size_t index);
     bool pressLeftBarButton(std::size_t index);
 
+    /// How far the screen was scrolled when another one took its place, in points.
+    double scrollPosition() const { return m_scrollPosition; }
+    void setScrollPosition(double position) { m_scrollPosition = position; }
+
     /// The stack that holds this screen; null while it is in none.
     NavigationController* navigationController() const { return m_navigationController; }
 
@@ -117,6 +121,7 @@ private:
     bool m_hidesNavigationBar = false;
     std::vector<BarButton> m_rightBarButtons;
     std::vector<BarButton> m_leftBarButtons;
+    double m_scrollPosition = 0;
     NavigationController* m_navigationController = nullptr;
     Signal<> m_changed;
     bool m_viewLoaded = false;

@@ -41,11 +41,8 @@ FunctionSelectAdapter::FunctionSelectAdapter(std::shared_ptr<FunctionSelectViewC
                                              const SceneAdapter& scene)
     : m_controller(std::move(controller)) {
     Q_UNUSED(scene)
-    m_subscription = m_controller->rowsChanged().subscribe([this] {
-        beginResetModel();
-        endResetModel();
-        Q_EMIT rowsRefreshed();
-    });
+    m_subscription = m_controller->rowsChanged().subscribe([this] { refresh(); });
+    m_rowCount = int(m_controller->rows().size());
 }
 
 FunctionSelectAdapter::~FunctionSelectAdapter() = default;
@@ -66,8 +63,23 @@ void FunctionSelectAdapter::setAngleMode(int mode) { m_controller->setAngleMode(
 
 bool FunctionSelectAdapter::isEditing() const { return m_controller->isEditing(); }
 
+void FunctionSelectAdapter::refresh() {
+    const int count = int(m_controller->rows().size());
+    // A list that is made anew begins at its top, so that is left to the case where its length changes.
+    if (count == m_rowCount) {
+        if (count > 0) {
+            Q_EMIT dataChanged(index(0), index(count - 1));
+        }
+    } else {
+        beginResetModel();
+        m_rowCount = count;
+        endResetModel();
+    }
+    Q_EMIT rowsRefreshed();
+}
+
 int FunctionSelectAdapter::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(m_controller->rows().size());
+    return parent.isValid() ? 0 : m_rowCount;
 }
 
 QVariant FunctionSelectAdapter::data(const QModelIndex& index, int role) const {

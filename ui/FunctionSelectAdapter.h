@@ -55,7 +55,10 @@ Q_SIGNALS:
     void rowsRefreshed();
 
 private:
+    void refresh();
+
     std::shared_ptr<FunctionSelectViewController> m_controller;
+    int m_rowCount = 0;
     Subscription m_subscription;
 };
 

@@ -42,11 +42,11 @@ QColor KeyboardScreenAdapter::backgroundColor() const { return toQColor(view().b
 QUrl KeyboardScreenAdapter::panelArtwork() const { return m_scene.panelArtwork(); }
 
 QString KeyboardScreenAdapter::leftButtonName() const {
-    return QString::fromUtf8(DisplayHistoryCell::kLeftButtonAccessibleName);
+    return QString::fromUtf8(plainRow(*m_controller, 0).leftButton().accessibleName);
 }
 
 QString KeyboardScreenAdapter::rightButtonName() const {
-    return QString::fromUtf8(DisplayHistoryCell::kRightButtonAccessibleName);
+    return QString::fromUtf8(plainRow(*m_controller, 0).rightButton().accessibleName);
 }
 
 QRectF KeyboardScreenAdapter::backingFrame() const {
@@ -86,15 +86,19 @@ LabelAdapter KeyboardScreenAdapter::rowOutput() const {
 }
 
 QRectF KeyboardScreenAdapter::rowLeftButton() const {
-    return toQRectF(plainRow(*m_controller, view().size().width).leftButtonFrame());
+    return toQRectF(plainRow(*m_controller, view().size().width).leftButton().frame);
 }
 
 QRectF KeyboardScreenAdapter::rowRightButton() const {
-    return toQRectF(plainRow(*m_controller, view().size().width).rightButtonFrame());
+    return toQRectF(plainRow(*m_controller, view().size().width).rightButton().frame);
 }
 
 LabelAdapter KeyboardScreenAdapter::entry() const {
     return LabelAdapter(view().currentEntryLabel().record());
+}
+
+QString KeyboardScreenAdapter::entryLines() const {
+    return QString::fromStdString(view().currentEntryLines());
 }
 
 bool KeyboardScreenAdapter::isCursorAtEnd() const {

@@ -45,6 +45,7 @@ class KeyboardScreenAdapter final : public QObject, public KeyboardScreen {
     Q_PROPERTY(QRectF rowRightButton READ rowRightButton NOTIFY historyRefreshed)
     // The entry line and its edit menu.
     Q_PROPERTY(velmora::LabelAdapter entry READ entry NOTIFY entryRefreshed)
+    Q_PROPERTY(QString entryLines READ entryLines NOTIFY entryRefreshed) ///< as they are drawn
     Q_PROPERTY(bool cursorAtEnd READ isCursorAtEnd NOTIFY entryRefreshed)
     Q_PROPERTY(bool editMenuShown READ isEditMenuShown NOTIFY editMenuRefreshed)
     Q_PROPERTY(QRectF editMenuTarget READ editMenuTarget NOTIFY editMenuRefreshed)
@@ -70,6 +71,7 @@ public:
     QRectF rowLeftButton() const;
     QRectF rowRightButton() const;
     LabelAdapter entry() const;
+    QString entryLines() const;
     bool isCursorAtEnd() const;
     bool isEditMenuShown() const;
     QRectF editMenuTarget() const;

@@ -50,6 +50,7 @@ void NavigationAdapter::refresh() {
     const auto top = navigation ? navigation->topViewController() : selected();
     const bool moreList = m_tabBar->showsMoreList();
     if (top != m_top || moreList != m_showsMoreList) {
+        Q_EMIT screenAboutToChange();
         m_top = top;
         m_showsMoreList = moreList;
         m_topSubscription =
@@ -76,6 +77,14 @@ QUrl NavigationAdapter::qmlFile() const {
         file = "MoreList.qml";
     }
     return file.empty() ? QUrl() : QUrl(QStringLiteral("qrc:/Velmora/") + QString::fromStdString(file));
+}
+
+double NavigationAdapter::scrollPosition() const { return m_top ? m_top->scrollPosition() : 0; }
+
+void NavigationAdapter::setScrollPosition(double position) {
+    if (m_top) {
+        m_top->setScrollPosition(position);
+    }
 }
 
 bool NavigationAdapter::isBarHidden() const {

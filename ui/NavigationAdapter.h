@@ -25,6 +25,8 @@ class NavigationAdapter final : public QObject {
     /// What draws the screen and what it draws; both empty while nothing does.
     Q_PROPERTY(QUrl qmlFile READ qmlFile NOTIFY screenChanged)
     Q_PROPERTY(QObject* screen READ screen NOTIFY screenChanged)
+    /// Kept with the screen on display, so that it shows the same part when it comes back.
+    Q_PROPERTY(double scrollPosition READ scrollPosition WRITE setScrollPosition NOTIFY screenChanged)
     Q_PROPERTY(bool barHidden READ isBarHidden NOTIFY barChanged)
     Q_PROPERTY(double barHeight READ barHeight NOTIFY barChanged)
     Q_PROPERTY(QString title READ title NOTIFY barChanged)
@@ -39,6 +41,8 @@ public:
 
     QUrl qmlFile() const;
     QObject* screen() const { return m_screen.get(); }
+    double scrollPosition() const;
+    void setScrollPosition(double position);
     bool isBarHidden() const;
     double barHeight() const;
     QString title() const;
@@ -51,6 +55,7 @@ public:
     Q_INVOKABLE void pressRightButton(int index);
 
 Q_SIGNALS:
+    void screenAboutToChange();
     void screenChanged();
     void barChanged();
 

@@ -8,9 +8,11 @@
 namespace velmora {
 
 PageAdapter::PageAdapter(std::shared_ptr<PageViewController> controller, const SceneAdapter& scene)
-    : m_controller(std::move(controller)) {
-    Q_UNUSED(scene)
+    : m_controller(std::move(controller)), m_scene(scene) {
+    connect(&scene, &SceneAdapter::changed, this, &PageAdapter::sceneChanged);
 }
+
+QUrl PageAdapter::panelArtwork() const { return m_scene.panelArtwork(); }
 
 QVariantList PageAdapter::paragraphs() const {
     QVariantList list;

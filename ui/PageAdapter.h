@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QUrl>
 #include <QVariantList>
 #include <QtQml/qqmlregistration.h>
 
@@ -17,14 +18,20 @@ class PageAdapter final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made by the application")
     Q_PROPERTY(QVariantList paragraphs READ paragraphs CONSTANT)
+    Q_PROPERTY(QUrl panelArtwork READ panelArtwork NOTIFY sceneChanged)
 
 public:
     PageAdapter(std::shared_ptr<PageViewController> controller, const SceneAdapter& scene);
 
     QVariantList paragraphs() const;
+    QUrl panelArtwork() const;
+
+Q_SIGNALS:
+    void sceneChanged();
 
 private:
     std::shared_ptr<PageViewController> m_controller;
+    const SceneAdapter& m_scene;
 };
 
 } // namespace velmora

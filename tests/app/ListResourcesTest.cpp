@@ -7,6 +7,7 @@
 #include "platform/Resources.h"
 #include "resources/CompiledResources.h"
 #include "tests/engine/TokenLine.h"
+#include "tests/engine/UlpDistance.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -49,7 +50,12 @@ protected:
 TEST_F(ListResources, areWellFormedAndExplained) {
     const auto pages = readPropertyListResource("Pages.plist");
     ASSERT_TRUE(pages && pages->asDictionary());
+<<<<<<< HEAD
     std::set<std::string> opened{"IfYouLikeThisAppPage"}; // by a tab of its own
+=======
+    EXPECT_EQ(loadFunctionListWithName(kEquationsListName).size(), kFirstFunctionListEntry);
+    std::set<std::string> opened;
+>>>>>>> lists
     for (const char* name : kLists) {
         const FunctionList list = loadFunctionListWithName(name);
         ASSERT_GT(list.size(), kFirstFunctionListEntry) << name;
@@ -57,7 +63,9 @@ TEST_F(ListResources, areWellFormedAndExplained) {
         for (const auto& [content, hint] : entriesOf(list)) {
             EXPECT_NE(content, "?") << name;
             EXPECT_TRUE(!isInserted(content) || !hint.empty()) << content;
-            if (const auto at = content.find("||"); at != std::string::npos) {
+            // The notes open from a row of the settings that is hidden, so the help must lead there too.
+            const auto at = content.find("||");
+            if (at != std::string::npos && name != std::string("ComplexNumbersImplementationNotes")) {
                 opened.insert(content.substr(at + 2));
             }
         }
@@ -121,7 +129,6 @@ TEST_F(ListResources, constantsHaveTheirPublishedValues) {
     // CODATA 2022, typed from the published table.
     const std::map<std::string, double> published{{"c", 2.99792458e8},
                                                   {"h", 6.62607015e-34},
-                                                  {"ħ", 1.054571817e-34},
                                                   {"G", 6.67430e-11},
                                                   {"μ0", 1.25663706127e-6},
                                                   {"ε0", 8.8541878188e-12},
@@ -131,10 +138,6 @@ TEST_F(ListResources, constantsHaveTheirPublishedValues) {
                                                   {"tPlanck", 5.391247e-44},
                                                   {"TPlanck", 1.416784e32},
                                                   {"qe", 1.602176634e-19},
-                                                  {"Φ0", 2.067833848e-15},
-                                                  {"G0", 7.748091729e-5},
-                                                  {"KJ", 483597.8484e9},
-                                                  {"RK", 25812.80745},
                                                   {"μB", 9.2740100657e-24},
                                                   {"μN", 5.0507837393e-27},
                                                   {"α", 7.2973525643e-3},
@@ -161,14 +164,6 @@ TEST_F(ListResources, constantsHaveTheirPublishedValues) {
                                                   {"mp/me", 1836.152673426},
                                                   {"NA", 6.02214076e23},
                                                   {"kB", 1.380649e-23},
-                                                  {"R", 8.314462618},
-                                                  {"F", 96485.33212},
-                                                  {"σ", 5.670374419e-8},
-                                                  {"bW", 2.897771955e-3},
-                                                  {"c1", 3.741771852e-16},
-                                                  {"c2", 1.438776877e-2},
-                                                  {"Vm", 22.41396954e-3},
-                                                  {"n0", 2.686780111e25},
                                                   {"g", 9.80665},
                                                   {"atm", 101325},
                                                   {"T0", 273.15},
@@ -178,16 +173,48 @@ TEST_F(ListResources, constantsHaveTheirPublishedValues) {
                                                   {"pc", 3.0856775814913673e16},
                                                   {"e", std::exp(1.0)},
                                                   {"π", std::acos(-1.0)}};
+    // Exact, but the table prints only the first digits: as they stand there, and by the defining constants.
+    const double h = published.at("h");
+    const double e = published.at("qe");
+    const double k = published.at("kB");
+    const double c = published.at("c");
+    const double molar = published.at("NA");
+    const double pi = published.at("π");
+    const double wien = 4.965114231744276303; // 5 (1 - exp(-x)) = x
+    struct Derived {
+        const char* firstDigits;
+        double value;
+    };
+    const std::map<std::string, Derived> derived{
+        {"ħ", {"1.054571817", h / (2 * pi)}},
+        {"Φ0", {"2.067833848", h / (2 * e)}},
+        {"G0", {"7.748091729", 2 * e * e / h}},
+        {"KJ", {"483597.8484", 2 * e / h}},
+        {"RK", {"25812.80745", h / (e * e)}},
+        {"R", {"8.314462618", molar * k}},
+        {"F", {"96485.33212", molar * e}},
+        {"σ", {"5.670374419", 2 * std::pow(pi, 5) / 15 * std::pow(k, 4) / (std::pow(h, 3) * c * c)}},
+        {"bW", {"2.897771955", h * c / (k * wien)}},
+        {"c1", {"3.741771852", 2 * pi * h * c * c}},
+        {"c2", {"1.438776877", h * c / k}},
+        {"Vm", {"22.41396954", molar * k * 273.15 / 101325}},
+        {"n0", {"2.686780111", 101325 / (k * 273.15)}}};
     const auto entries = entriesOf(loadFunctionListWithName("Constants"));
     EXPECT_EQ(entries.front().first, "i");
-    EXPECT_EQ(entries.size(), published.size() + 1);
+    EXPECT_EQ(entries.size(), published.size() + derived.size() + 1);
     int uncertain = 0;
     for (std::size_t i = 1; i < entries.size(); ++i) {
         const std::string& content = entries[i].first;
         const std::string label = content.substr(0, content.find('='));
-        ASSERT_TRUE(published.contains(label)) << content;
-        EXPECT_EQ(valueAt(content, 0.0), published.at(label)) << content;
-        EXPECT_EQ(valueAt("2 " + content, 0.0), 2 * published.at(label)) << content;
+        const ComplexValue value = valueAt(content, 0.0);
+        if (const auto found = derived.find(label); found != derived.end()) {
+            EXPECT_TRUE(content.starts_with(label + "=" + found->second.firstDigits)) << content;
+            EXPECT_LE(ulpDistance(value, found->second.value), 2) << content; // both sides are rounded
+        } else {
+            ASSERT_TRUE(published.contains(label)) << content;
+            EXPECT_EQ(value, published.at(label)) << content;
+        }
+        EXPECT_EQ(valueAt("2 " + content, 0.0), 2.0 * value) << content;
         EXPECT_THAT(std::string("E.0123456789"), testing::Not(testing::HasSubstr(label.substr(0, 1))));
         EXPECT_EQ(label.find_first_of("()"), std::string::npos);
         uncertain += isConstantWithUncertainFinalDigit(content) ? 1 : 0;

@@ -20,7 +20,7 @@ protected:
         const char* const list = R"(<plist version="1.0"><array>
             <string>Functions</string><string>All of it</string>
             <dict><key>content</key><string>Angles</string><key>hint</key><string/></dict>
-            <dict><key>content</key><string>%%Waves%%</string><key>hint</key><string/></dict>
+            <dict><key>content</key><string>%%Waves%%</string><key>hint</key><string>not shown</string></dict>
             <dict><key>content</key><string>sin$$$$(</string><key>hint</key><string>si$$$$ne</string></dict>
             <dict><key>content</key><string>G=6.674(3)</string><key>hint</key><string>gravity</string></dict>
             <dict><key>content</key><string>FFFF</string><key>hint</key><string/></dict>
@@ -118,6 +118,12 @@ TEST_F(FunctionSelectTest, putsChoicesIntoTheLine) {
     EXPECT_EQ(top().rows()[3].detail, "y4 from equations tab");
     choose("y4()");
     EXPECT_EQ(entry(), "sin(gcd(y4(_,");
+    const auto named = std::make_shared<FunctionSelectViewController>();
+    named->setFunctionListName("Equations"); // without a resource of that name
+    stack->push(named);
+    EXPECT_EQ(top().title(), "Equations");
+    ASSERT_EQ(top().rows().size(), 4U);
+    EXPECT_EQ(top().rows()[0].title, "y1()");
 }
 
 TEST_F(FunctionSelectTest, opensTheListOfItsKeyWithTheEntriesOfItsLine) {
@@ -150,6 +156,15 @@ TEST_F(FunctionSelectTest, withoutACalculatorBelowItGoesToTheCalculatorTab) {
     list->selectRow(rowOf(*list, "sin()"));
     EXPECT_EQ(tabs->selectedIndex(), 0U);
     EXPECT_EQ(entry(), "sin(");
+    type("2 e"); // a name, which is completed
+    list->selectRow(rowOf(*list, "sin()"));
+    type("c o"); // no name yet: it waits behind the choice
+    list->selectRow(rowOf(*list, "sin()"));
+    EXPECT_EQ(entry(), "sin(2esin(sin(co");
+    EXPECT_NE(screen.notice.find("“co” is only the start of"), std::string::npos);
+    keyboard->numberEntered(7);
+    keyboard->namedExpressionSelected(Token("G=6.674(3)"));
+    EXPECT_EQ(entry(), "sin(2esin(sin((7)Gco");
     tabs->setSelectedIndex(1);
     EXPECT_EQ(reference->topViewController(), list) << "the reference stays where it was";
 }
@@ -196,14 +211,20 @@ TEST_F(FunctionSelectTest, ownConstantsAreDefinedNamedChangedAndDeleted) {
     list.selectRow(2);
     auto& editor = dynamic_cast<ConstantEditViewController&>(*stack->topViewController());
     const std::pair<const char*, bool> names[] = {
-        {"a b", false}, {"f(", false},  {"sin", false}, {"y2", false},  {"k4", false},
-        {"x", false},   {"a=1", false}, {"k3", true},   {"mass", true}, {" rate ", true}};
+        {"a b", false}, {"f(", false},  {"sin", false}, {"y2", false},  {"k4", false},   {"x", false},
+        {"a=1", false}, {"E", false},   {"N", false},   {"Pi", false},  {"2a", false},   {".a", false},
+        {"a≥", false},  {"a-b", false}, {"m_e", false}, {"@k1", false}, {"a×b", false},  {"k3", true},
+        {"pin", true},  {"E0", true},   {"≠", true},    {"mass", true}, {" rate ", true}};
     for (const auto& [name, accepted] : names) {
         alerts.clear();
         EXPECT_EQ(editor.setName(name), accepted) << name;
         EXPECT_EQ(alerts.alerts().size(), accepted ? 0U : 1U) << name;
     }
     EXPECT_EQ(editor.name(), "rate");
+    EXPECT_EQ(reasonAgainstConstantName("a+b", 2), "A name cannot hold “+”.");
+    Model::m().constants().setNameAtIndex(2, "v-1"); // as a file may bring it
+    EXPECT_TRUE(editor.setName("v-1"));
+    EXPECT_TRUE(editor.setName("rate"));
     Model::m().constants().setExpressionAtIndex(2, ExpressionWithTokenArray(tokens("7 / 2")), false);
     stack->pop();
     list.pressRightBarButton(0); // "Done"

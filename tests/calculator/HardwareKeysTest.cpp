@@ -140,6 +140,29 @@ TEST_F(HardwareKeysTest, tapMovesTheCursorToTheNearestGap) {
     keyboard->cursorTappedAt(99);
     keyboard->entryLineTapped({15 + 3 * 10.8 + 1, 60});
     EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 23);
+    keyboard->cursorTappedAt(99);
+    keyboard->entryLineTapped({15, 60}); // where the line breaks, from its second line
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 20);
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(),
+              "y1(x)=" + std::string(20, '1') + "\n_1111111111");
+
+    // A line breaks behind a blank where it can: the heights begin a line of their own.
+    open(5, &Model::m().impliedFunctions());
+    keyboard->displayModel()->setTokenArray(TokenArray(25, Token("y")));
+    keyboard->updateDisplay();
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(), std::string(25, 'y') + "= \n0");
+    keyboard->entryLineTapped({200, 60});
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 25);
+
+    // The line of inequalities is as high as one line of text, which is that of the cursor.
+    open(4);
+    keyboard->displayModel()->setTokenArray(TokenArray(60, Token("y")));
+    keyboard->updateDisplay();
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(), std::string(60 - 2 * 28, 'y'));
+    keyboard->cursorTappedAt(30);
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(), "yy_" + std::string(25, 'y'));
+    keyboard->entryLineTapped({15 + 10.2 * 5, 10});
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 32);
 }
 
 } // namespace

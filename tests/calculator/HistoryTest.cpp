@@ -79,11 +79,11 @@ TEST_F(HistoryTest, rowLayout) {
     EXPECT_EQ(cell.outputLabel().frame, (Rect{10, 29.5, 300, 29.5}));
     EXPECT_EQ(cell.outputLabel().alignment, TextAlignment::Right);
     EXPECT_NEAR(cell.inputLabel().fontSize, 23.289473684, 1e-9); // 59 * 15 / 38
-    EXPECT_EQ(cell.leftButtonFrame(), (Rect{0, 0, 80, 59}));
-    EXPECT_EQ(cell.rightButtonFrame(), (Rect{240, 0, 80, 59}));
+    EXPECT_EQ(cell.leftButton().frame, (Rect{0, 0, 80, 59}));
+    EXPECT_EQ(cell.rightButton().frame, (Rect{240, 0, 80, 59}));
     cell.setRightButtonWidthMultiplier(2);
     cell.layout({320, 40});
-    EXPECT_EQ(cell.rightButtonFrame(), (Rect{160, 0, 160, 40}));
+    EXPECT_EQ(cell.rightButton().frame, (Rect{160, 0, 160, 40}));
     EXPECT_EQ(cell.outputLabel().fontSize, 600.0 / 38); // the product first, which rounds only once
 }
 

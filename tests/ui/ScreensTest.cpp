@@ -7,6 +7,8 @@
 #include "platform/ScreenRegistry.h"
 
 #include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QPointingDevice>
 #include <QTest>
 
@@ -73,7 +75,12 @@ TEST_P(Screens, aConstantIsNamedDefinedAndUsed) {
     program.click(utf8("constants"));
     program.click(utf8("User-defined constants"));
     program.click(utf8("Edit"));
-    program.click(utf8("k2 from user-defined constants, k2"));
+    for (const char* row : {"12", "20", "28", "36", "40"}) { // rows are made as they come into view
+        program.scrollTo(utf8("k%1 from user-defined constants, k%1").arg(utf8(row)));
+    }
+    const double place =
+        program.frameInWindow(program.item(utf8("k40 from user-defined constants, k40"))).y();
+    program.click(utf8("k40 from user-defined constants, k40"));
     picture("constant");
     enter("Name", "mass");
     program.click(utf8("Value, not defined"));
@@ -84,7 +91,9 @@ TEST_P(Screens, aConstantIsNamedDefinedAndUsed) {
     program.click(utf8("Back to User-defined constants"));
     program.click(utf8("Done"));
     picture("own-constants");
-    program.click(utf8("k2 from user-defined constants, mass = 12/5"));
+    const QString defined = utf8("k40 from user-defined constants, mass = 12/5");
+    EXPECT_NEAR(program.frameInWindow(program.item(defined)).y(), place, 1) << "the list is where it was";
+    program.click(defined);
     program.press(Qt::Key_Return);
     EXPECT_EQ(program.historyRows(), QStringList{utf8("mass is 2.4")});
 }
@@ -108,6 +117,15 @@ TEST_P(Screens, equationsAreEditedSavedAndRefused) {
     program.click(utf8("OK"));
     program.click(utf8("Back to Cancel"));
     EXPECT_TRUE(program.isOnScreen(utf8("y1(x)=2x^3-x/5+1")));
+    program.click(utf8("y3(x)= empty"));
+    program.type(QString(40, u'8'));
+    picture("editor-long");
+    program.clickAt(program.pointOf(program.item(utf8("Line")), 0.999, 0.38)); // where the first line ends
+    const QString cursorAtBreak = program.line();
+    EXPECT_TRUE(cursorAtBreak.contains(u'_')) << cursorAtBreak.toStdString();
+    program.clickAt(program.pointOf(program.item(utf8("Line")), 0.001, 0.62)); // the second begins there
+    EXPECT_EQ(program.line(), cursorAtBreak);
+    program.click(utf8("Clear+Save"));
     for (const char* text : {"sin(x)/x", "x"}) {
         program.click(utf8(text[0] == 's' ? "y3(x)= empty" : "y4(x)= empty"));
         program.type(utf8(text));
@@ -172,6 +190,22 @@ TEST_P(Screens, helpIsRead) {
     program.click(utf8("Getting started"));
     picture("page");
     EXPECT_TRUE(program.isOnScreen(utf8("Open parentheses")));
+    program.scrollTo(utf8("Open parentheses"));
+    const double place = program.frameInWindow(program.item(utf8("Open parentheses"))).y();
+    const QPoint heading = program.pointOf(program.item(utf8("Open parentheses")), 0.05);
+    QTest::mouseClick(&program.window(), Qt::RightButton, Qt::NoModifier, heading);
+    program.settle();
+    picture("page-menu");
+    program.click(utf8("Copy"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), utf8("Open parentheses"));
+    EXPECT_FALSE(program.isOnScreen(utf8("Copy")));
+    program.drag(heading, heading - QPoint(0, 60)); // still scrolls
+    const double left = program.frameInWindow(program.item(utf8("Open parentheses"))).y();
+    EXPECT_EQ(left < place - 20, GetParam().width() < 600) << "a tablet shows the whole page";
+    program.click(utf8("Calculator"));
+    program.click(utf8("More"));
+    program.click(utf8("Help"));
+    EXPECT_NEAR(program.frameInWindow(program.item(utf8("Open parentheses"))).y(), left, 1);
     program.click(utf8("Back to Help"));
     program.click(utf8("Back to More"));
     EXPECT_TRUE(program.isOnScreen(utf8("Settings")));
@@ -216,11 +250,14 @@ TEST_P(Screens, everySettingIsChangedOnItsRow) {
                           {"Grid Lines, Close together", "Far apart", &Model::graphGridLineType, 1}};
     for (const Pick& row : picks) {
         program.scrollTo(utf8(row.row));
+        const double place = program.frameInWindow(program.item(utf8(row.row))).y();
         program.click(utf8(row.row));
         picture(row.choice);
         expectUprightInATurnedWindow();
         program.click(utf8(row.choice));
         EXPECT_EQ((model.*row.get)(), row.after) << row.row;
+        const QString chosen = utf8(row.row).section(u',', 0, 0) + utf8(", ") + utf8(row.choice);
+        EXPECT_NEAR(program.frameInWindow(program.item(chosen)).y(), place, 1) << "where it was";
     }
     struct Number {
         const char* title;

@@ -40,15 +40,13 @@ Item {
             }
         }
         anchors.fill: parent
-        text: root.label.text
+        text: root.screen.entryLines
         font: root.label.font
         color: root.label.textColor
         textFormat: Text.PlainText
         horizontalAlignment: root.label.alignment
         verticalAlignment: Text.AlignVCenter
         elide: root.label.elide
-        wrapMode: root.label.lineCount === 1 ? Text.NoWrap : Text.WrapAnywhere
-        maximumLineCount: root.label.lineCount
         Accessible.ignored: true
     }
     Rectangle {

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora
 
-// A text that can be copied: a double tap or a long press opens the menu where the finger is.
+// A text that can be copied: a double tap, a long press or the right mouse button opens the menu where it is.
 Text {
     id: root
 
@@ -37,6 +37,11 @@ Text {
         onSingleTapped: label.tapped()
         onDoubleTapped: eventPoint => label.doubleTapped(eventPoint.position)
         onLongPressed: label.doubleTapped(point.position)
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad // a finger has no buttons to tell apart
+        onTapped: eventPoint => label.doubleTapped(eventPoint.position)
     }
     Loader {
         parent: root.menuParent

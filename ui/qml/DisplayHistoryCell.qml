@@ -19,7 +19,6 @@ Item {
     ScrollingLabel {
         label: root.table.rowInput
         text: root.inputText
-        opacity: 0.82
     }
     ScrollingLabel {
         label: root.table.rowOutput

@@ -6,6 +6,7 @@ FocusScope {
     id: root
 
     required property FunctionSelectAdapter screen
+    readonly property Item scrollingPart: table
 
     focus: true
 

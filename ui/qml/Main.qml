@@ -12,13 +12,25 @@ Rectangle {
 
     function showScreen() {
         page.setSource(navigation.qmlFile, { screen: navigation.screen })
+        const scrolling = scrollingPart()
+        if (scrolling) {
+            scrolling.scrollTo(navigation.scrollPosition)
+        }
     }
+    // What scrolls in the screen on display; only some screens have such a part.
+    function scrollingPart() { return page.item ? page.item.scrollingPart : undefined }
 
     color: "black"
     Component.onCompleted: showScreen()
 
     Connections {
         target: root.navigation
+        function onScreenAboutToChange() {
+            const scrolling = root.scrollingPart()
+            if (scrolling) {
+                root.navigation.scrollPosition = scrolling.scrollPosition()
+            }
+        }
         function onScreenChanged() { root.showScreen() }
     }
 

@@ -6,6 +6,7 @@ FocusScope {
     id: root
 
     required property PageAdapter screen
+    readonly property Item scrollingPart: page
 
     focus: true
 
@@ -15,6 +16,13 @@ FocusScope {
     }
     Flickable {
         id: page
+
+        function scrollPosition() { return contentY }
+        function scrollTo(position) {
+            column.forceLayout() // whose height bounds the position
+            contentY = Math.max(0, Math.min(position, contentHeight - height))
+        }
+
         anchors.fill: parent
         contentHeight: column.height + 2 * Theme.margin
         boundsBehavior: Flickable.DragAndOvershootBounds
@@ -32,19 +40,19 @@ FocusScope {
             spacing: 10
             Repeater {
                 model: root.screen.paragraphs
-                delegate: Text {
+                delegate: CopyPasteLabel {
                     required property var modelData
                     required property int index
                     width: column.width
                     topPadding: modelData.isHeading && index > 0 ? 10 : 0
-                    text: modelData.text
+                    copiedText: modelData.text
+                    panelArtwork: root.screen.panelArtwork
+                    menuParent: root
                     color: modelData.isHeading ? Theme.text : "#d5dae1"
                     font { pixelSize: modelData.isHeading ? 18 : 15; bold: modelData.isHeading }
                     lineHeight: modelData.isHeading ? 1 : 1.2
                     wrapMode: Text.WordWrap
-                    textFormat: Text.PlainText
                     Accessible.role: modelData.isHeading ? Accessible.Heading : Accessible.Paragraph
-                    Accessible.name: modelData.text
                 }
             }
         }

@@ -7,6 +7,18 @@ ListView {
 
     property bool worksByKeys: false // since a key was pressed on one of its rows
 
+    // In points from the start, 0 at the top. The way there is taken in steps of less than a screen, so that
+    // every row is made and measured; after a leap the list would only estimate where its rows stand.
+    function scrollPosition() { return contentY - originY + topMargin }
+    function scrollTo(position) {
+        const target = originY - topMargin + position
+        const step = Math.max(height / 2, 40)
+        while (contentY < target) {
+            contentY = Math.min(contentY + step, target)
+        }
+        returnToBounds()
+    }
+
     clip: true
     boundsBehavior: contentHeight > height ? Flickable.DragAndOvershootBounds : Flickable.StopAtBounds
     reuseItems: false
