@@ -1,7 +1,6 @@
 #include "ui/GraphItem.h"
 
 #include "platform/ActionScope.h"
-#include "platform/Clock.h"
 #include "platform/Log.h"
 #include "ui/LabelPainter.h"
 #include "ui/QtConversions.h"
@@ -10,7 +9,7 @@
 #include <QBuffer>
 #include <QDateTime>
 #include <QDir>
-#include <QMouseEvent>
+#include <QInputEvent>
 #include <QPainter>
 #include <QSaveFile>
 #include <QStandardPaths>
@@ -22,6 +21,9 @@
 namespace velmora {
 
 namespace {
+
+/// When it happened, however late it is dealt with.
+double secondsOf(const QInputEvent& event) { return static_cast<double>(event.timestamp()) / 1000; }
 
 Point toPoint(QPointF point) { return {point.x(), point.y()}; }
 
@@ -161,12 +163,12 @@ void GraphItem::touchEvent(QTouchEvent* event) {
         if (point.state() == QEventPoint::Pressed) {
             pressed = true;
             if (single) {
-                touch.tapCount = m_taps.touchBegan(touch.location, monotonicSeconds());
+                touch.tapCount = m_taps.touchBegan(touch.location, secondsOf(*event));
             }
         } else if (point.state() == QEventPoint::Released) {
             ++released;
             if (single) {
-                touch.tapCount = m_taps.touchEnded(touch.location, monotonicSeconds());
+                touch.tapCount = m_taps.touchEnded(touch.location, secondsOf(*event));
             }
         } else if (point.state() == QEventPoint::Updated) {
             moved = true;
@@ -201,7 +203,7 @@ void GraphItem::mousePressEvent(QMouseEvent* event) {
         return;
     }
     const Point location = toPoint(event->position());
-    m_controller->touchesBegan({{0, location, m_taps.touchBegan(location, monotonicSeconds())}});
+    m_controller->touchesBegan({{0, location, m_taps.touchBegan(location, secondsOf(*event))}});
 }
 
 void GraphItem::mouseMoveEvent(QMouseEvent* event) {
@@ -215,7 +217,7 @@ void GraphItem::mouseReleaseEvent(QMouseEvent* event) {
     if (m_controller && event->button() == Qt::LeftButton) {
         const ActionScope action;
         const Point location = toPoint(event->position());
-        m_controller->touchesEnded({{0, location, m_taps.touchEnded(location, monotonicSeconds())}}, 0);
+        m_controller->touchesEnded({{0, location, m_taps.touchEnded(location, secondsOf(*event))}}, 0);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "ui/GraphAdapter.h"
 #include "ui/ShakeSensor.h"
 
+#include <QMouseEvent>
 #include <QPointer>
 
 namespace velmora {
@@ -36,7 +37,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    /// A double click comes after the press that it is, so there is nothing left to do.
+    void mouseDoubleClickEvent(QMouseEvent* event) override { event->accept(); }
     void wheelEvent(QWheelEvent* event) override;
 
 private:

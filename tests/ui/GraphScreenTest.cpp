@@ -156,6 +156,10 @@ TEST_P(GraphScreen, mouseWheelAndKeysWorkItToo) {
     program.press(Qt::Key_Right);
     EXPECT_NEAR(bounds().xMin, start.xMin + width(start) / 10, width(start) / 100);
     program.press(Qt::Key_R);
+    QTest::mouseDClick(&program.window(), Qt::LeftButton, Qt::NoModifier, at(0.6, 0.5));
+    program.settle();
+    program.click(utf8("Cancel"));
+    EXPECT_EQ(bounds().xMin, start.xMin);
     program.press(Qt::Key_Return);
     program.click(utf8("Find roots"));
     picture("graph-root");
