@@ -106,32 +106,22 @@ TEST(ExpressionList, loadsWhatFilesHold) {
         PropertyList saved;
         std::vector<std::string> loaded;
     };
+    const PropertyArray threeLines{savedLine("1"), savedLine("2"), savedLine("3")};
+    // clang-format off
     const Row rows[] = {
         {"entries", 3, 3, PropertyArray{savedLine("1 + 2"), savedLine("")}, {"1+2", "", "kept"}},
-        {"texts of old files",
-         3,
-         3,
-         PropertyArray{PropertyArray{"sin(", "@k1", ")"}, PropertyArray{}},
+        {"texts of old files", 3, 3, PropertyArray{PropertyArray{"sin(", "@k1", ")"}, PropertyArray{}},
          {"sin(k1)", "", "kept"}},
-        {"tokens and texts",
-         3,
-         3,
-         PropertyArray{archivedTokenArray(tokens("2 ^")), PropertyArray{"G=6.7(2)"}},
+        {"tokens and texts", 3, 3, PropertyArray{archivedTokenArray(tokens("2 ^")), PropertyArray{"G=6.7(2)"}},
          {"2^", "G", "kept"}},
         {"others are skipped", 3, 3, PropertyArray{"1", 7, savedLine("4")}, {"kept", "kept", "4"}},
         {"nothing", 3, 3, PropertyArray{}, {"kept", "kept", "kept"}},
         {"no array", 3, 3, savedLine("1"), {"kept", "kept", "kept"}},
-        {"the first of too many slots",
-         2,
-         2,
-         PropertyArray{savedLine("1"), savedLine("2"), savedLine("3")},
-         {"1", "2"}},
-        {"the newest of too long a history",
-         2,
-         0,
-         PropertyArray{savedLine("1"), savedLine("2"), savedLine("3")},
-         {"2", "3"}},
-        {"a short history", 9, 0, PropertyArray{savedLine("1")}, {"1"}}};
+        {"the first of too many slots", 2, 2, threeLines, {"1", "2"}},
+        {"the newest of too long a history", 2, 0, threeLines, {"2", "3"}},
+        {"a short history", 9, 0, PropertyArray{savedLine("1")}, {"1"}},
+    };
+    // clang-format on
     for (const Row& row : rows) {
         ExpressionList list(row.max, row.n);
         for (int i = 0; i < row.n; ++i) {
@@ -152,18 +142,12 @@ TEST(ExpressionList, loadsWhatFilesHold) {
 
 TEST(TargetAndIndex, looksAtTheSecondCharacterOnly) {
     Definitions user;
+    // clang-format off
     const std::pair<const char*, std::optional<int>> rows[] = {
-        {"y4", 3},
-        {"y12(", 11},
-        {"y0(", -1},
-        {"y1x", 0},
-        {"y99999999999(", std::numeric_limits<int>::max() - 1},
-        {"y", {}},
-        {"yx(", {}},
-        {"Y1(", {}},
-        {"", {}},
-        {"y-1(", {}},
-        {"θ1(", {}}};
+        {"y4", 3}, {"y12(", 11}, {"y0(", -1}, {"y1x", 0},
+        {"y99999999999(", std::numeric_limits<int>::max() - 1}, {"y", {}}, {"yx(", {}}, {"Y1(", {}}, {"", {}}, {"y-1(", {}}, {"θ1(", {}},
+    };
+    // clang-format on
     for (const auto& [text, index] : rows) {
         const auto target = TargetAndIndex::newTargetAndIndexWithToken(text);
         ASSERT_EQ(target.has_value(), index.has_value()) << text;
@@ -176,18 +160,15 @@ TEST(UserFunction, evaluatesItsEquation) {
     user.load(user.equations, 0, "x ^ 2 + 1");
     user.load(user.equations, 1, "y1( y1( t ) ) - y");
     user.load(user.equations, 2, "2 +");
+    // clang-format off
     const std::pair<const char*, const char*> rows[] = {
-        {"y1( 3 )", "10"},
-        {"y1( 2 i )", "-3"},
-        {"y1( i + 1 )", "1+2i"},
+        {"y1( 3 )", "10"}, {"y1( 2 i )", "-3"}, {"y1( i + 1 )", "1+2i"}, {"y1( sqrt( - 1 ) )", "0"},
         {"y2( 1 )", "4"},         // every variable is it
         {"y3( 1 )", "Undefined"}, // the error belongs to the equation
-        {"y4( 1 )", "Undefined"},
-        {"y0( 1 )", "Undefined"},
-        {"y5( 1 )", "Undefined"},
-        {"y99999999999( 1 )", "Undefined"},
-        {"y1( 1 / 0 )", "Undefined"},
-        {"y1( sqrt( - 1 ) )", "0"}};
+        {"y4( 1 )", "Undefined"}, {"y0( 1 )", "Undefined"}, {"y5( 1 )", "Undefined"},
+        {"y99999999999( 1 )", "Undefined"}, {"y1( 1 / 0 )", "Undefined"},
+    };
+    // clang-format on
     for (const auto& [line, text] : rows) {
         EXPECT_EQ(shown(line), text) << line;
     }

@@ -3,11 +3,10 @@
 #include "engine/Number.h"
 #include "engine/Variable.h"
 #include "tests/engine/TokenLine.h"
+#include "tests/platform/DecimalCommaLocale.h"
 #include "tests/platform/LogRecorder.h"
 
 #include <gtest/gtest.h>
-
-#include <clocale>
 
 namespace velmora {
 namespace {
@@ -120,18 +119,12 @@ TEST(Parser, namesWhatIsWrong) {
 
 TEST(Parser, whatHasNoValueIsUndefinedWithoutAnError) {
     Definitions user;
-    const std::pair<const char*, bool> rows[] = {// whether it may be drawn
-                                                 {"", false},
-                                                 {"''", false},
-                                                 {"@k1", false},
-                                                 {"2 @k1", false},
-                                                 {")", true},
-                                                 {"(", true},
-                                                 {",", true},
-                                                 {"1 / 0", true},
-                                                 {"x", true},
-                                                 {"y9( 1 )", true},
-                                                 {"conditional( 1 , 2 , 3 )", true}};
+    // clang-format off
+    const std::pair<const char*, bool> rows[] = { // whether it may be drawn
+        {"", false}, {"''", false}, {"@k1", false}, {"2 @k1", false}, {")", true}, {"(", true}, {",", true},
+        {"1 / 0", true}, {"x", true}, {"y9( 1 )", true}, {"conditional( 1 , 2 , 3 )", true},
+    };
+    // clang-format on
     for (const auto& [line, graphable] : rows) {
         EXPECT_EQ(shown(line), "Undefined") << line;
         EXPECT_EQ(parsed(line)->errorDescription(), std::nullopt) << line;
@@ -193,15 +186,11 @@ TEST(Parser, takesFinishedExpressionsAsOperands) {
     EXPECT_EQ(Expression::newExpressionWithTokens(digits)->value(), 10.0);
 }
 
-TEST(Parser, readsAndWritesAPointInEveryLocale) {
-    const std::string former = std::setlocale(LC_ALL, nullptr);
-    for (const char* name : {"de_DE.UTF-8", "de_DE", "fr_FR.UTF-8"}) {
-        std::setlocale(LC_ALL, name); // one that is not installed changes nothing
-    }
+TEST(Parser, readsAndWritesAPointInEveryLanguage) {
+    const DecimalCommaLocale locale;
     EXPECT_EQ(shown("1 . 5 + a=0.25"), "1.75");
     EXPECT_EQ(parsed("2 . 5")->description(), "2.5");
     EXPECT_EQ(shown("1 . 5 + i / 2"), "1.5+0.5i");
-    std::setlocale(LC_ALL, former.c_str());
 }
 
 } // namespace
