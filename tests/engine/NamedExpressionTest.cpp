@@ -1,7 +1,5 @@
 #include "engine/NamedExpressionList.h"
 
-#include "engine/Number.h"
-#include "platform/KeyedArchive.h"
 #include "tests/engine/TokenLine.h"
 
 #include <gtest/gtest.h>
@@ -16,21 +14,6 @@ TEST(NamedExpression, showsItsNameAndParsesToItsExpression) {
     EXPECT_EQ(Expression::newExpressionWithTokens(line)->value(), 8.0);
     const NamedExpression wrong(tokens("1 +"), "wrong");
     EXPECT_EQ(wrong.expression()->errorDescription(), "Unable to parse");
-}
-
-TEST(NamedExpression, numbersSurviveTheArchiveOtherTreesOnlyByName) {
-    const std::pair<std::shared_ptr<const Expression>, bool> rows[] = {
-        {std::make_shared<const Number>(ComplexValue(1.5, -2)), true},
-        {parsed("x + 1"), false},
-        {nullptr, false}};
-    for (const auto& [tree, kept] : rows) {
-        KeyedArchiver coder;
-        NamedExpression(tree, "ans").encodeWithCoder(coder);
-        const NamedExpression read = NamedExpression::decode(KeyedUnarchiver(coder.propertyList()));
-        EXPECT_EQ(read.name(), "ans");
-        ASSERT_EQ(read.expression() != nullptr, kept);
-        EXPECT_TRUE(!kept || read.expression()->value() == ComplexValue(1.5, -2));
-    }
 }
 
 TEST(NamedExpressionList, namesItsEntries) {

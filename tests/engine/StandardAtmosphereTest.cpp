@@ -39,13 +39,16 @@ TEST(StandardAtmosphere, agreesWithThePublishedTables) {
 
 TEST(StandardAtmosphere, changesLayersAboveTheirUpperBounds) {
     // Each bound still belongs to the layer below it, so the published base pressure begins just above.
-    const double bounds[] = {11000, 20000, 32000, 47000, 51000, 71000};
-    const double basePressures[] = {22632.1, 5474.89, 868.019, 110.906, 66.9389, 3.956642};
-    for (int i = 0; i < 6; ++i) {
-        const double above = std::nextafter(bounds[i], 1e5);
-        EXPECT_NEAR(atmospherePressure(above), basePressures[i], 1e-9 * basePressures[i]) << bounds[i];
-        EXPECT_NE(atmospherePressure(bounds[i]), basePressures[i]) << bounds[i];
-        EXPECT_NEAR(atmosphereTemperature(above), atmosphereTemperature(bounds[i]), 1e-9) << bounds[i];
+    for (const auto& [bound, pressure] : {std::pair{11000.0, 22632.1},
+                                          {20000.0, 5474.89},
+                                          {32000.0, 868.019},
+                                          {47000.0, 110.906},
+                                          {51000.0, 66.9389},
+                                          {71000.0, 3.956642}}) {
+        const double above = std::nextafter(bound, 1e5);
+        EXPECT_NEAR(atmospherePressure(above), pressure, 1e-9 * pressure) << bound;
+        EXPECT_NE(atmospherePressure(bound), pressure) << bound;
+        EXPECT_NEAR(atmosphereTemperature(above), atmosphereTemperature(bound), 1e-9) << bound;
     }
 }
 

@@ -91,17 +91,19 @@ TEST(Token, linesSurviveTheArchive) {
     line.emplace_back(std::string("plain"));
     line.emplace_back(std::make_shared<const Number>(ComplexValue(0.1, -1e300)));
     line.emplace_back(NamedExpression(std::make_shared<const Number>(7), "ans"));
+    line.emplace_back(NamedExpression(tokens("x + 1"), "sum"));            // only its name is saved
     line.emplace_back(std::shared_ptr<const Expression>(parsed("x + 1"))); // has no saved form
     const TokenArray read = unarchivedTokenArray(archivedTokenArray(line));
-    ASSERT_EQ(read.size(), 8U);
-    for (int i = 0; i < 5; ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        EXPECT_EQ(*read[at].token(), *line[at].token());
+    ASSERT_EQ(read.size(), 9U);
+    for (std::size_t i = 0; i < 5; ++i) {
+        EXPECT_EQ(*read[i].token(), *line[i].token());
     }
     EXPECT_EQ(*read[5].text(), "plain");
     EXPECT_EQ((*read[6].expression())->value(), ComplexValue(0.1, -1e300));
     EXPECT_EQ(read[7].namedExpression()->name(), "ans");
     EXPECT_EQ(read[7].namedExpression()->expression()->value(), 7.0);
+    EXPECT_EQ(read[8].namedExpression()->name(), "sum");
+    EXPECT_EQ(read[8].namedExpression()->expression(), nullptr);
     const PropertyList damaged = PropertyArray{1, PropertyDictionary{{"Kind", "Token"}}, true, "x"};
     EXPECT_EQ(unarchivedTokenArray(damaged).size(), 1U);
 }

@@ -2,6 +2,8 @@
 
 #include "platform/ViewController.h"
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -46,5 +48,33 @@ private:
     std::string m_name;
     Events& m_events;
 };
+
+/// The hooks of an exchange of the screen on display. An empty name: there is none on that side. A new screen
+/// is loaded first.
+enum class Arriving { Known, New };
+inline Events exchange(const std::string& leaving, const std::string& arriving,
+                       Arriving kind = Arriving::Known) {
+    Events events{leaving + " willDisappear", arriving + " load", arriving + " willAppear",
+                  leaving + " didDisappear", arriving + " didAppear"};
+    std::erase_if(events, [kind](const std::string& event) {
+        return event.starts_with(' ') || (kind == Arriving::Known && event.ends_with("load"));
+    });
+    return events;
+}
+
+/// One thing done, and the hooks that it must run.
+struct Step {
+    const char* what;
+    std::function<void()> run;
+    Events expected;
+};
+
+template <std::size_t count> void expectHooks(Events& events, const Step (&steps)[count]) {
+    for (const Step& step : steps) {
+        events.clear();
+        step.run();
+        EXPECT_EQ(events, step.expected) << step.what;
+    }
+}
 
 } // namespace velmora

@@ -38,14 +38,13 @@ TEST(SavingRegistry, runsEachSaverOnceInOrder) {
     SavingRegistry& registry = SavingRegistry::shared();
     registry.reset();
     std::vector<std::string> saved;
-    registry.registerSaver("converter", [&] { saved.emplace_back("former"); });
-    registry.registerSaver("late", [&] {
-        saved.emplace_back("late");
-        registry.registerSaver("later", [&] { saved.emplace_back("later"); });
-    });
-    registry.registerSaver("converter", [&] { saved.emplace_back("converter"); });
+    const auto saver = [&](const char* name) { return [&saved, name] { saved.emplace_back(name); }; };
+    registry.registerSaver("converter", saver("former"));
+    registry.registerSaver("late", [&] { registry.registerSaver("later", saver("later")); });
+    registry.registerSaver("last", saver("last"));
+    registry.registerSaver("converter", saver("converter"));
     registry.saveAll();
-    EXPECT_THAT(saved, ElementsAre("converter", "late"));
+    EXPECT_THAT(saved, ElementsAre("converter", "last"));
     registry.reset();
     registry.saveAll();
     EXPECT_EQ(saved.size(), 2U);
@@ -65,18 +64,13 @@ TEST(KeyedArchive, tellsAbsentFromZeroAndFromOtherTypes) {
     const KeyedUnarchiver unarchiver(*read);
     EXPECT_EQ(unarchiver.integer("zero"), 0);
     EXPECT_EQ(unarchiver.number("zero"), 0.0);
-    EXPECT_EQ(unarchiver.boolean("zero"), std::nullopt);
     EXPECT_EQ(unarchiver.boolean("off"), false);
     EXPECT_EQ(unarchiver.text("empty"), "");
-    EXPECT_EQ(unarchiver.number("half"), 0.5);
-    EXPECT_EQ(unarchiver.integer("half"), std::nullopt);
-    EXPECT_EQ(unarchiver.number("empty"), std::nullopt);
-    EXPECT_FALSE(unarchiver.containsValueForKey("none"));
-    EXPECT_FALSE(unarchiver.containsValueForKey("absent"));
-    EXPECT_EQ(unarchiver.integer("absent"), std::nullopt);
-    ASSERT_TRUE(unarchiver.array("list"));
+    EXPECT_EQ(unarchiver.number("half"), 0.5); // the later one
     EXPECT_EQ(unarchiver.array("list")->size(), 2U);
-    EXPECT_EQ(unarchiver.array("half"), nullptr);
+    EXPECT_FALSE(unarchiver.boolean("zero") || unarchiver.integer("half") || unarchiver.number("empty"));
+    EXPECT_FALSE(unarchiver.array("half") || unarchiver.text("off") || unarchiver.integer("absent"));
+    EXPECT_FALSE(unarchiver.containsValueForKey("none") || unarchiver.containsValueForKey("absent"));
 }
 
 } // namespace
