@@ -1,9 +1,12 @@
+#include "engine/IntegerPower.h"
 #include "tests/engine/ValueTable.h"
 
 namespace velmora {
 namespace {
 
 using enum BivarType;
+
+constexpr ComplexValue kI{0, 1};
 
 TEST(BivarReal, agreesWithTheMathematicalValue) {
     // Computed with arbitrary-precision arithmetic, 60 digits, for exactly these doubles.
@@ -94,13 +97,43 @@ TEST(BivarComplex, takesPrincipalValues) {
     expectValues(cases, 3);
 }
 
+TEST(Power, ofNegativeNumbersTurnsByHalfTurns) {
+    // (−1)^b goes round the unit circle once for every 2 in b.
+    const double eighth = 0.70710678118654752440;
+    const ComplexValue circle[] = {
+        1, {eighth, eighth}, kI, {-eighth, eighth}, -1, {-eighth, -eighth}, -kI, {eighth, -eighth},
+    };
+    for (int eighths = -40; eighths <= 40; ++eighths) {
+        const ComplexValue value = BivarFunction(Power).valueWithComplex(-1, eighths / 4.0);
+        EXPECT_LE(ulpDistance(value, circle[(eighths + 40) % 8]), 1) << eighths;
+    }
+}
+
+TEST(IntegerPower, isExactForWholeParts) {
+    struct Row {
+        ComplexValue z;
+        int n;
+        ComplexValue value;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {kI, 2, -1}, {kI, -1, -kI}, {{2, 0}, -2, 0.25}, {0, 0, 1}, {0, -1, kNaN}, {{1, 1}, 8, 16},
+        {{1, 1}, 100, -1125899906842624.0}, // (2i)^50 = −2^50
+        {{2, 3}, 5, {122, -597}}, {kI, std::numeric_limits<int>::min(), 1},
+        {kI, std::numeric_limits<int>::max(), -kI},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        EXPECT_EQ(ulpDistance(integerPower(row.z, row.n), row.value), 0) << row.z << "^" << row.n;
+    }
+}
+
 TEST(BivarTokens, selectTheirType) {
     struct Row {
         const char* token;
         int type;
         const char* name;
     };
-    // Written out, for saved files depend on the numbers.
     // clang-format off
     const Row rows[] = {
         {"+", 0, "+"}, {"-", 1, "-"}, {"*", 2, "*"}, {"/", 3, "/"}, {"^", 4, "^"}, {"logbase(", 5, "logbase"},

@@ -47,10 +47,8 @@ TEST(ExpressionList, outOfRangeSlotsGiveNothing) {
     ExpressionList list(4);
     list.setExpressionAtIndex(3, ExpressionWithTokenArray(tokens("1 +")), false);
     for (const int index : {-1, 4, 1000000}) {
-        EXPECT_EQ(list.expression(index), nullptr);
-        EXPECT_EQ(list.expressionTokenArray(index), nullptr);
-        EXPECT_EQ(list.expressionString(index), "");
-        EXPECT_FALSE(list.nonemptyExpressionAtIndex(index));
+        EXPECT_TRUE(!list.expression(index) && !list.expressionTokenArray(index)) << index;
+        EXPECT_TRUE(list.expressionString(index).empty() && !list.nonemptyExpressionAtIndex(index)) << index;
     }
     EXPECT_FALSE(list.nonemptyExpressionAtIndex(0));
     EXPECT_TRUE(list.nonemptyExpressionAtIndex(3)); // unreadable, yet not empty
@@ -66,12 +64,7 @@ TEST(ExpressionList, theHistoryDropsItsOldest) {
         history.addExpressionTokenArray(textsOfCharacters(std::to_string(i)));
     }
     EXPECT_EQ(history.nExpressions(), 50);
-    EXPECT_EQ(history.expressionString(0), "3");
-    EXPECT_EQ(history.expressionString(49), "52");
-    TokenArray own = tokens("1");
-    history.addExpressionTokenArray(own);
-    own.emplace_back(Token("2"));
-    EXPECT_EQ(history.expressionString(49), "1"); // a copy of the tokens
+    EXPECT_EQ(history.expressionString(0) + " " + history.expressionString(49), "3 52");
 }
 
 TEST(ExpressionList, aRefusedDefinitionLeavesTheFormerOne) {
@@ -100,7 +93,7 @@ TEST(ExpressionList, loadsWhatFilesHold) {
         {"entries", 3, 3, PropertyArray{savedLine("1 + 2"), savedLine("")}, {"1+2", "", "kept"}},
         {"texts of old files", 3, 3, PropertyArray{PropertyArray{"sin(", "@k1", ")"}, PropertyArray{}},
          {"sin(k1)", "", "kept"}},
-        {"tokens and texts", 3, 3, PropertyArray{archivedTokenArray(tokens("2 ^")), PropertyArray{"G=6.7(2)"}},
+        {"tokens, texts", 3, 3, PropertyArray{archivedTokenArray(tokens("2 ^")), PropertyArray{"G=6.7(2)"}},
          {"2^", "G", "kept"}},
         {"others are skipped", 3, 3, PropertyArray{"1", 7, savedLine("4")}, {"kept", "kept", "4"}},
         {"nothing", 3, 3, PropertyArray{}, {"kept", "kept", "kept"}},
@@ -126,6 +119,26 @@ TEST(ExpressionList, loadsWhatFilesHold) {
     ExpressionList list(1);
     list.loadWithObject(PropertyArray{PropertyArray{"1", "+", "2"}});
     EXPECT_EQ(list.expression(0)->value(), 3.0);
+}
+
+TEST(NamedExpressionList, namesItsEntries) {
+    NamedExpressionList list(50, 3);
+    list.setFunctionName("@k");
+    EXPECT_EQ(list.nameArray().size(), 3U);
+    EXPECT_EQ(list.fullFunctionNameWithIndex(0), "k1");
+    EXPECT_EQ(list.nameArray().size(), 50U); // padded when a name is first asked for
+    list.setNameAtIndex(0, "g");
+    list.setNameAtIndex(-1, "nothing");
+    list.setExpressionAtIndex(0, ExpressionWithTokenArray(tokens("9 . 8 1")), true);
+    EXPECT_EQ(list.descriptionWithIndex(0), "g=9.81");
+    const std::pair<int, const char*> rows[] = {{0, "g"}, {2, "k3"}, {49, "k50"}, {60, "k61"}, {-1, "k0"}};
+    for (const auto& [index, name] : rows) {
+        EXPECT_EQ(list.fullFunctionNameWithIndex(index), name);
+    }
+    list.setNameAtIndex(0, "");
+    EXPECT_EQ(list.fullFunctionNameWithIndex(0), "k1");
+    list.setNameArray(std::vector<std::string>(60, "n")); // of a damaged file
+    EXPECT_EQ(list.nameArray().size(), 50U);
 }
 
 TEST(TargetAndIndex, looksAtTheSecondCharacterOnly) {

@@ -68,7 +68,7 @@ TEST(LevelCurveHeights, editsItsList) {
 
 TEST(LevelCurveHeights, missingOrWrongFieldsReadAsNothing) {
     const PropertyList saved = PropertyDictionary{
-        {"LevelCurvesKey", 1}, {"ModeKey", std::int64_t{1} << 40}, {"NKey", "3"}, {"StartKey", 2.5}};
+        {"LevelCurvesKey", 1}, {"ModeKey", (std::int64_t{1} << 40) + 1}, {"NKey", "3"}, {"StartKey", 2.5}};
     EXPECT_EQ(LevelCurveHeights::decode(KeyedUnarchiver(saved)), heights(false, 0, {}, 2.5, 0, 0));
 }
 
@@ -82,10 +82,10 @@ TEST(LevelCurveHeightsList, keepsHeightsBesideItsFunctions) {
     EXPECT_EQ(list.levelCurveHeightsAtIndex(-1), nullptr);
 
     ExpressionWithLevelCurveHeightsList read(4);
-    read.loadHeights(list.archivedHeights());
-    EXPECT_EQ(read.levelCurveHeightsArray(), list.levelCurveHeightsArray());
-    read.loadHeights("no list");
-    EXPECT_EQ(read.levelCurveHeightsArray(), list.levelCurveHeightsArray());
+    for (const PropertyList& saved : {list.archivedHeights(), PropertyList("no list")}) {
+        read.loadHeights(saved);
+        EXPECT_EQ(read.levelCurveHeightsArray(), list.levelCurveHeightsArray());
+    }
     for (const std::size_t saved : {std::size_t{2}, std::size_t{9}}) { // short and long files
         read.loadHeights(PropertyArray(saved, PropertyDictionary{{"NKey", 7}}));
         ASSERT_EQ(read.levelCurveHeightsArray().size(), 4U);

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace velmora {
 namespace {
 
@@ -35,7 +37,7 @@ TEST(NumberDisplay, writesNumbersInTheGivenStyle) {
         {0.4, whole, "0"}, {-0.4, whole, "-0"}, {12345.4, whole, "12,345"}, {1e9, whole, "1E+09"},
         {1200000000, whole, "1E+09"}, {100, exponents, "1E+02"}, {0.01, exponents, "1E-02"},
         {1e23, {.displayDigits = 1, .maxDigitsForDecimal = 23}, "1E+23"}, // typed 1E23 is the limit itself
-        {std::nextafter(1e23, 0.0), {.displayDigits = 0, .maxDigitsForDecimal = 23}, "99999999999999974834176"},
+        {std::nextafter(1e23, 0.0), {.maxDigitsForDecimal = 23}, "99999999999999974834176"},
         {1e22, plain, "10000000000000000000000"},
         {0.1, {.displayDigits = 20, .trailingZeroes = true}, "0.10000000000000000555"},
         {7, {.displayDigits = -3, .trailingZeroes = true}, "7"}, {0, zeroes, "0"}, {-0.0, zeroes, "0"},
@@ -66,13 +68,8 @@ TEST(NumberDisplay, followsTheUsersSettings) {
 }
 
 TEST(NumberDisplay, showsOnlyRealValuesOfComplexOnes) {
-    struct Case {
-        ComplexValue z;
-        double threshold;
-        const char* text;
-    };
     // clang-format off
-    const Case cases[] = {
+    const std::tuple<ComplexValue, double, const char*> cases[] = { // with the rounding threshold
         {{2, 1e-13}, 1e-12, "2"}, {{2, 1e-13}, 0, "complex"}, {{2, 1e-12}, 1e-12, "complex"},
         {{2, -1}, 1e-12, "complex"}, {{1e-13, 0}, 1e-12, "0"}, {{1e-13, 0}, 0, "1E-13"},
         {{-5e-13, -5e-13}, 1e-12, "0"}, {{kNaN, 0}, 1e-12, "undefined"},
@@ -81,9 +78,9 @@ TEST(NumberDisplay, showsOnlyRealValuesOfComplexOnes) {
     // clang-format on
     PlainEnvironment environment;
     const EnvironmentScope scope(environment);
-    for (const Case& c : cases) {
-        environment.roundingThreshold = c.threshold;
-        EXPECT_EQ(displayStringWithComplex(c.z), c.text) << c.z;
+    for (const auto& [z, threshold, text] : cases) {
+        environment.roundingThreshold = threshold;
+        EXPECT_EQ(displayStringWithComplex(z), text) << z;
     }
 }
 

@@ -151,11 +151,15 @@ TEST(Parser, aConstantIsOneOperandWhateverItsTree) {
         double value; ///< at x = 5
         const char* tree;
     };
-    const Row rows[] = {{"2 @k1", 6, "(2)*((1)+(2))"},         {"@k1 x", 15, "((1)+(2))*(x)"},
-                        {"@k1 @k1", 9, "((1)+(2))*((1)+(2))"}, {"@k1 ^ 2", 9, "((1)+(2))^(2)"},
-                        {"- @k1 ^ 2", -9, "N[((1)+(2))^(2)]"}, {"6 / @k1 * 2", 4, "((6)/((1)+(2)))*(2)"},
-                        {"@k1 - 1", 2, "((1)+(2))-(1)"},       {"@k2 + @k1", 18, "(((1)+(2))*(x))+((1)+(2))"},
-                        {"@k1 ( 2 )", 6, "((1)+(2))*(2)"}};
+    // clang-format off
+    const Row rows[] = {
+        {"2 @k1", 6, "(2)*((1)+(2))"}, {"@k1 x", 15, "((1)+(2))*(x)"}, {"@k1 @k1", 9, "((1)+(2))*((1)+(2))"},
+        {"@k1 ^ 2", 9, "((1)+(2))^(2)"}, {"- @k1 ^ 2", -9, "N[((1)+(2))^(2)]"},
+        {"@k1 - 1", 2, "((1)+(2))-(1)"},
+        {"6 / @k1 * 2", 4, "((6)/((1)+(2)))*(2)"}, {"@k2 + @k1", 18, "(((1)+(2))*(x))+((1)+(2))"},
+        {"@k1 ( 2 )", 6, "((1)+(2))*(2)"},
+    };
+    // clang-format on
     for (const Row& row : rows) {
         EXPECT_EQ(valueAt(row.line, 5), row.value) << row.line;
         EXPECT_EQ(parsed(row.line)->description(), row.tree);
@@ -178,6 +182,8 @@ TEST(Parser, takesFinishedExpressionsAsOperands) {
     line.emplace_back(std::make_shared<const Variable>(2));
     const auto tree = Expression::newExpressionWithTokens(line);
     EXPECT_EQ(tree->description(), "(((2)*(((x)+(1))^(2)))*(x))-(xD)");
+    EXPECT_EQ(toDisplayString(line), "2^ansx-"); // what has no text is left out
+    EXPECT_EQ(NamedExpression(tokens("1 +"), "wrong").expression()->errorDescription(), "Unable to parse");
     EXPECT_EQ(tree->valueWithVariableValue(2.0), 34.0); // one variable given: every variable is it
     EXPECT_TRUE(isNaN(tree->valueWithVariableValues(2.0, 3.0)));
     TokenArray digits = tokens("1");

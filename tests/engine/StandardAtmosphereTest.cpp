@@ -39,12 +39,11 @@ TEST(StandardAtmosphere, agreesWithThePublishedTables) {
 
 TEST(StandardAtmosphere, changesLayersAboveTheirUpperBounds) {
     // Each bound still belongs to the layer below it, so the published base pressure begins just above.
-    for (const auto& [bound, pressure] : {std::pair{11000.0, 22632.1},
-                                          {20000.0, 5474.89},
-                                          {32000.0, 868.019},
-                                          {47000.0, 110.906},
-                                          {51000.0, 66.9389},
-                                          {71000.0, 3.956642}}) {
+    // clang-format off
+    const std::pair<double, double> bases[] = {{11000, 22632.1}, {20000, 5474.89}, {32000, 868.019},
+                                               {47000, 110.906}, {51000, 66.9389}, {71000, 3.956642}};
+    // clang-format on
+    for (const auto& [bound, pressure] : bases) {
         const double above = std::nextafter(bound, 1e5);
         EXPECT_NEAR(atmospherePressure(above), pressure, 1e-9 * pressure) << bound;
         EXPECT_NE(atmospherePressure(bound), pressure) << bound;
@@ -64,10 +63,6 @@ TEST(StandardAtmosphere, endsAtItsLimits) {
 TEST(SpeedOfSound, agreesWithPublishedValues) {
     EXPECT_NEAR(speedOfSoundInAir(15), 340.294, 0.02); // sea level of the standard atmosphere
     EXPECT_NEAR(speedOfSoundInAir(-56.5), 295.07, 0.02);
-    EXPECT_EQ(speedOfSoundInAir(-273.15), 0);
-    for (const double outside : {-273.16, 1000000.5, std::nan("")}) {
-        EXPECT_TRUE(std::isnan(speedOfSoundInAir(outside))) << outside;
-    }
 }
 
 } // namespace

@@ -118,13 +118,10 @@ std::string chain(int depth, std::size_t references = 1) {
     return binary(objects);
 }
 
-TEST(DamagedPropertyList, limitsNesting) {
+TEST(DamagedPropertyList, limitsNestingAlsoThroughASharedContainer) {
     EXPECT_TRUE(readPropertyList(chain(kMaximumPropertyListDepth)));
     EXPECT_EQ(readPropertyList(chain(kMaximumPropertyListDepth + 1)), std::nullopt);
     EXPECT_EQ(readPropertyList(chain(250)), std::nullopt);
-}
-
-TEST(DamagedPropertyList, limitsNestingReachedThroughASharedContainer) {
     // The shared chain is first met high up, where it is not too deep, and then again at the bottom.
     std::vector<std::string> objects{container('\xAF', "\x01\x28")};
     for (int level = 1; level < 79; ++level) {
@@ -155,15 +152,12 @@ TEST(DamagedPropertyList, boundsXmlNestingWhateverHidesIt) {
         std::string repeated;
         bool within;
     };
+    // clang-format off
     const NestingCase cases[] = {
-        {"", "<array>", false},
-        {"", "<dict ><key>k</key>", false},
-        {"", "<array></array>", true},
-        {"", "<array/><dict />", true},
-        {"", "<!-- <array></array> -->", true},
+        {"", "<array>", false}, {"", "<dict ><key>k</key>", false}, {"", "<array></array>", true},
+        {"", "<array/><dict />", true}, {"", "<!-- <array></array> -->", true},
         {"", "<!DOCTYPE plist PUBLIC \"-//a//b\" \"c\"><dict></dict>", true},
-        {"", "<array><!-- </array> -->", false},
-        {"", "<array><![CDATA[</array>]]>", false},
+        {"", "<array><!-- </array> -->", false}, {"", "<array><![CDATA[</array>]]>", false},
         {"", "<array><?x </array>?>", false},
         {"<!--", "<array>", false},                     // a comment without an end
         {"<array '>", "<array>", false},                // a quote without an end
@@ -171,9 +165,9 @@ TEST(DamagedPropertyList, boundsXmlNestingWhateverHidesIt) {
         {"<array '><!-- '>", "<array></array>", true},  // closes what it has opened itself
         {"</array></array></array>", "<array>", false}, // closing ahead earns nothing
         {"", "<array <array ", false},                  // tags without an end
-        {"", "<!--", true},                             // and without costing the square of the length
-        {"", "<string '", true},
+        {"", "<!--", true}, {"", "<string '", true},    // and without costing the square of the length
     };
+    // clang-format on
     for (const NestingCase& c : cases) {
         SCOPED_TRACE(c.start + c.repeated);
         std::string text = "<plist version=\"1.0\">" + c.start;

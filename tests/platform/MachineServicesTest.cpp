@@ -64,17 +64,15 @@ TEST(StaticObjectManager, loadsEachSoundOnce) {
 
 TEST(Pasteboard, holdsRepresentationsByType) {
     PlainPasteboard pasteboard;
-    const PasteboardScope scope(pasteboard);
-    EXPECT_EQ(generalPasteboard().text(), std::nullopt);
-    const std::string type = "test.tokens";
-    generalPasteboard().setItems(
-        {{{type, PropertyData{1}}}, {{"public.text", "2θ"}, {type, PropertyData{2}}}});
-    EXPECT_EQ(generalPasteboard().text(), "2θ");
-    EXPECT_EQ(generalPasteboard().data(type), PropertyData{1});
-    EXPECT_EQ(generalPasteboard().data("public.text"), std::nullopt) << "text is not bytes";
-    generalPasteboard().setText("new");
-    EXPECT_EQ(generalPasteboard().text(), "new");
-    EXPECT_EQ(generalPasteboard().data(type), std::nullopt) << "copying replaces everything";
+    EXPECT_EQ(pasteboard.text(), std::nullopt);
+    pasteboard.setItems(
+        {{{"tokens", PropertyData{1}}}, {{"public.text", "2θ"}, {"tokens", PropertyData{2}}}});
+    EXPECT_EQ(pasteboard.text(), "2θ");
+    EXPECT_EQ(pasteboard.data("tokens"), PropertyData{1});
+    EXPECT_EQ(pasteboard.data("public.text"), std::nullopt) << "text is not bytes";
+    pasteboard.setText("new");
+    EXPECT_EQ(pasteboard.text(), "new");
+    EXPECT_EQ(pasteboard.data("tokens"), std::nullopt) << "copying replaces everything";
 }
 
 TEST(RandomSource, usesTheInstalledSourceForAScope) {

@@ -41,7 +41,7 @@ TEST(PropertyList, survivesTheBinaryForm) {
         "", "plain", "θ π √ – 1,5", "beyond sixteen bits: 𝜃😀", std::string(300, 'a'),
         PropertyData{}, PropertyData{0, 255, 10}, PropertyArray{}, PropertyDictionary{}, PropertyList(),
         PropertyArray{1, PropertyList(), "1", 1.0, true},
-        PropertyDictionary{{"", 1}, {"θ", PropertyArray{PropertyDictionary{{"a", "b"}}}}, {"none", PropertyList()}},
+        PropertyDictionary{{"", 1}, {"θ", PropertyArray{PropertyDictionary{{"a", "b"}}}}, {"-", PropertyList()}},
         PropertyArray(1000, "the same text"), PropertyArray(1000, PropertyList(PropertyArray{1, 2})),
         nested(kMaximumPropertyListDepth),
     };
@@ -93,7 +93,8 @@ TEST(PropertyList, readsXml) {
         {"<integer>-42</integer>", -42}, {"<integer>9223372036854775807</integer>", Limits::max()},
         {"<integer>-9223372036854775808</integer>", Limits::min()},
         {"<integer>18446744073709551615</integer>", 18446744073709551615.0},
-        {"<real>0.1</real>", 0.1}, {"<real>-2.5E-10</real>", -2.5e-10}, {"<true/>", true}, {"<false/>", false},
+        {"<real>0.1</real>", 0.1}, {"<real>-2.5E-10</real>", -2.5e-10}, {"<true/>", true},
+        {"<false/>", false},
         {"<data>AP8K</data>", PropertyData{0, 255, 10}}, {"<array/>", PropertyArray{}},
         {"<dict/>", PropertyDictionary{}},
         {"<array><string>sin(</string>\n  <dict><key>content</key><string>cos(</string></dict></array>",
@@ -111,7 +112,8 @@ TEST(PropertyList, refusesXmlThatIsNone) {
     // clang-format off
     const std::string texts[] = {
         "", " ", "plain text", "<", "<plist>", xml(""), xml("<array>"), xml("<unknown/>"),
-        xml("<array><string>a</array>"), xml("<dict><string>no key</string></dict>"), xml("<string>\xFF</string>"),
+        xml("<array><string>a</array>"), xml("<dict><string>no key</string></dict>"),
+        xml("<string>\xFF</string>"),
         xml(repeated("<array>", kMaximumPropertyListDepth + 1)),
         xml(repeated("<array><!-- </array> -->", kMaximumPropertyListDepth + 1)),
         repeated("<dict><key>k</key>", 300'000), std::string(200'000, ' '),

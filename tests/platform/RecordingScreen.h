@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,16 +24,9 @@ public:
     void viewDidAppear(bool) override { record("didAppear"); }
     void viewWillDisappear(bool) override { record("willDisappear"); }
     void viewDidDisappear(bool) override { record("didDisappear"); }
-    void willAnimateRotation(Orientation) override { record("willRotate"); }
-    void didRotate(Orientation) override { record("didRotate"); }
-    bool shouldAutorotate(Orientation orientation) const override {
-        return !allowed || orientation == *allowed;
-    }
 
     /// Runs after each hook was written down.
     std::function<void(const std::string&)> onEvent;
-    /// The only orientation allowed, if any is set.
-    std::optional<Orientation> allowed;
 
 private:
     void record(const std::string& hook) {

@@ -6,6 +6,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace velmora {
@@ -16,13 +17,12 @@ using testing::IsEmpty;
 
 class Timers : public testing::Test {
 protected:
-    std::function<void()> record(const std::string& name) {
-        return [this, name] { fired.push_back(name); };
+    Subscription start(double seconds, TimerKind kind, const std::string& name) {
+        return startTimer(seconds, kind, [this, name] { fired.push_back(name); });
     }
     std::vector<std::string> advance(double seconds) {
-        fired.clear();
         service.advance(seconds);
-        return fired;
+        return std::exchange(fired, {});
     }
 
     ManualTimerService service;
@@ -31,19 +31,18 @@ protected:
 };
 
 TEST_F(Timers, fireWhenDueInOrder) {
-    const Subscription late = startTimer(2, TimerKind::OneShot, record("late"));
-    const Subscription early = startTimer(1, TimerKind::OneShot, record("early"));
-    const Subscription repeating = startTimer(0.75, TimerKind::Repeating, record("tick"));
-    const Subscription alsoEarly = startTimer(1, TimerKind::OneShot, record("also early"));
-    EXPECT_THAT(fired, IsEmpty());
+    const Subscription late = start(2, TimerKind::OneShot, "late");
+    const Subscription early = start(1, TimerKind::OneShot, "early");
+    const Subscription repeating = start(0.75, TimerKind::Repeating, "tick");
+    const Subscription alsoEarly = start(1, TimerKind::OneShot, "also early");
+    { const Subscription stopped = start(0.5, TimerKind::OneShot, "stopped"); }
     EXPECT_THAT(advance(0.5), IsEmpty());
     EXPECT_THAT(advance(0.5), ElementsAre("tick", "early", "also early"));
     EXPECT_THAT(advance(2), ElementsAre("tick", "late", "tick", "tick"));
     EXPECT_EQ(service.pendingCount(), 1U);
 }
 
-TEST_F(Timers, stopWithTheirSubscription) {
-    { const Subscription brief = startTimer(1, TimerKind::OneShot, record("brief")); }
+TEST_F(Timers, mayStopThemselves) {
     Subscription ticking;
     ticking = startTimer(1, TimerKind::Repeating, [&] {
         fired.emplace_back("tick");
@@ -57,10 +56,10 @@ TEST_F(Timers, stopWithTheirSubscription) {
 
 TEST_F(Timers, bearUselessDelays) {
     const double notANumber = std::numeric_limits<double>::quiet_NaN();
-    const Subscription negative = startTimer(-1, TimerKind::OneShot, record("negative"));
-    const Subscription undefined = startTimer(notANumber, TimerKind::OneShot, record("undefined"));
+    const Subscription negative = start(-1, TimerKind::OneShot, "negative");
+    const Subscription undefined = start(notANumber, TimerKind::OneShot, "undefined");
     EXPECT_THAT(advance(0), ElementsAre("negative", "undefined"));
-    const Subscription frantic = startTimer(0, TimerKind::Repeating, record("frantic"));
+    const Subscription frantic = start(0, TimerKind::Repeating, "frantic");
     EXPECT_EQ(advance(0.0105).size(), 10U);
     EXPECT_THAT(advance(notANumber), IsEmpty());
 }
