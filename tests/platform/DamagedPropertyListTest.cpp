@@ -16,23 +16,21 @@ namespace {
 
 /// A binary list put together by hand: objects with one-byte references, the first one on top.
 std::string binary(const std::vector<std::string>& objects, std::uint64_t top = 0) {
-    std::string bytes = "bplist00";
-    std::string offsets;
-    for (const std::string& object : objects) {
-        offsets += static_cast<char>(bytes.size() >> 8);
-        offsets += static_cast<char>(bytes.size() & 0xFF);
-        bytes += object;
-    }
-    const auto eightBytes = [](std::uint64_t value) {
+    const auto bigEndian = [](std::uint64_t value, int size) {
         std::string text;
-        for (int shift = 56; shift >= 0; shift -= 8) {
+        for (int shift = 8 * (size - 1); shift >= 0; shift -= 8) {
             text += static_cast<char>(value >> shift & 0xFF);
         }
         return text;
     };
-    const std::size_t offsetTable = bytes.size();
-    return bytes + offsets + std::string(6, '\0') + '\x02' + '\x01' + eightBytes(objects.size()) +
-           eightBytes(top) + eightBytes(offsetTable);
+    std::string bytes = "bplist00";
+    std::string offsets;
+    for (const std::string& object : objects) {
+        offsets += bigEndian(bytes.size(), 2);
+        bytes += object;
+    }
+    return bytes + offsets + std::string(6, '\0') + '\x02' + '\x01' + bigEndian(objects.size(), 8) +
+           bigEndian(top, 8) + bigEndian(bytes.size(), 8);
 }
 
 /// An array or a dictionary whose references stand in the text.
@@ -41,10 +39,9 @@ std::string container(char marker, const std::string& references) {
 }
 
 PropertyData smallList() {
-    return binaryPropertyList(PropertyDictionary{{"number", 0.1},
-                                                 {"θ", -5},
-                                                 {"text", "y1(x)="},
-                                                 {"list", PropertyArray{true, "π", PropertyData{1, 2, 3}}}});
+    const PropertyArray inner{true, "π", PropertyData{1, 2, 3}};
+    return binaryPropertyList(
+        PropertyDictionary{{"number", 0.1}, {"θ", -5}, {"text", "y1(x)="}, {"list", inner}});
 }
 
 TEST(DamagedPropertyList, refusesEveryTruncationAndSurvivesEveryFlippedBit) {

@@ -15,6 +15,22 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+TEST(ViewController, pressesBarButtonsAsAUserCan) {
+    Events events;
+    RecordingScreen screen("a", events);
+    int presses = 0;
+    const auto swap = [&] {
+        screen.setRightBarButtons({}); // frees the action that is running
+        ++presses;
+    };
+    screen.setRightBarButtons(
+        {{"Swap", swap}, {"Disabled", [&] { presses += 100; }, false}, {"Nothing", {}}});
+    EXPECT_FALSE(screen.pressRightBarButton(1) || screen.pressRightBarButton(3) ||
+                 screen.pressLeftBarButton(0));
+    EXPECT_TRUE(screen.pressRightBarButton(2) && screen.pressRightBarButton(0));
+    EXPECT_EQ(presses, 1);
+}
+
 /// A stack on display with one screen "a", whose hooks so far are forgotten.
 class Navigation : public testing::Test {
 protected:

@@ -27,11 +27,6 @@ TEST(Resources, readPropertyListsAndLogWhatTheyCannot) {
     EXPECT_EQ(readPropertyListResource("Absent.plist"), std::nullopt);
     EXPECT_THAT(log.lines(),
                 ElementsAre("malformed resource: Broken.plist", "missing resource: Absent.plist"));
-    {
-        const ResourcesScope inner;
-        EXPECT_EQ(findResource("Notes.txt"), std::nullopt);
-    }
-    EXPECT_EQ(findResource("Notes.txt"), "plain θ");
 }
 
 TEST(SavingRegistry, runsEachSaverOnceInOrder) {
