@@ -126,9 +126,6 @@ TEST(PropertyList, refusesXmlThatIsNone) {
 
 TEST(PropertyList, doesNotDependOnTheLocale) {
     const DecimalCommaLocale locale;
-    if (!locale.inForce()) {
-        GTEST_SKIP() << "this machine offers no locale with a decimal comma";
-    }
     EXPECT_EQ(readPropertyList(xml("<real>2.75</real>")), PropertyList(2.75));
     EXPECT_EQ(std::strtod("1,5", nullptr), 1.5) << "the locale in force must come back";
 }
