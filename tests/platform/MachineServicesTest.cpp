@@ -1,8 +1,11 @@
-// The small services a machine offers: alerts, sounds, pasteboard, random numbers and timers.
+// The small services a machine offers: alerts, sounds, pasteboard, random numbers,
+// resources, savers and timers.
 
 #include "platform/Alert.h"
 #include "platform/Pasteboard.h"
 #include "platform/RandomSource.h"
+#include "platform/Resources.h"
+#include "platform/SavingRegistry.h"
 #include "platform/Sound.h"
 #include "platform/StaticObjectManager.h"
 #include "platform/Timer.h"
@@ -89,6 +92,38 @@ TEST(RandomSource, varies32Bits) {
         alwaysSet &= number;
     }
     EXPECT_TRUE(everSet == ~std::uint32_t{0} && alwaysSet == 0);
+}
+
+TEST(Resources, readPropertyListsAndLogWhatTheyCannot) {
+    const ResourcesScope scope;
+    const LogRecorder log;
+    registerResource("Units.plist", "<plist version=\"1.0\"><array><true/></array></plist>");
+    registerResource("Broken.plist", "<plist><array>");
+    registerResource("Notes.txt", "plain θ");
+    EXPECT_EQ(readPropertyListResource("Units.plist"), PropertyList(PropertyArray{true}));
+    EXPECT_EQ(resourceText("Notes", "txt"), "plain θ");
+    EXPECT_EQ(resourceText("Notes", "plist"), std::nullopt);
+    EXPECT_TRUE(log.lines().empty());
+    EXPECT_EQ(readPropertyListResource("Broken.plist"), std::nullopt);
+    EXPECT_EQ(readPropertyListResource("Absent.plist"), std::nullopt);
+    EXPECT_THAT(log.lines(),
+                ElementsAre("malformed resource: Broken.plist", "missing resource: Absent.plist"));
+}
+
+TEST(SavingRegistry, runsEachSaverOnceInOrder) {
+    SavingRegistry& registry = SavingRegistry::shared();
+    registry.reset();
+    std::vector<std::string> saved;
+    const auto saver = [&](const char* name) { return [&saved, name] { saved.emplace_back(name); }; };
+    registry.registerSaver("converter", saver("former"));
+    registry.registerSaver("late", [&] { registry.registerSaver("later", saver("later")); });
+    registry.registerSaver("last", saver("last"));
+    registry.registerSaver("converter", saver("converter"));
+    registry.saveAll();
+    EXPECT_THAT(saved, ElementsAre("converter", "last"));
+    registry.reset();
+    registry.saveAll();
+    EXPECT_EQ(saved.size(), 2U);
 }
 
 class Timers : public testing::Test {

@@ -1,5 +1,6 @@
 #include "platform/PropertyList.h"
 
+#include "platform/KeyedArchive.h"
 #include "tests/platform/DecimalCommaLocale.h"
 
 #include <gtest/gtest.h>
@@ -128,6 +129,29 @@ TEST(PropertyList, doesNotDependOnTheLocale) {
     const DecimalCommaLocale locale;
     EXPECT_EQ(readPropertyList(xml("<real>2.75</real>")), PropertyList(2.75));
     EXPECT_EQ(std::strtod("1,5", nullptr), 1.5) << "the locale in force must come back";
+}
+
+TEST(KeyedArchive, tellsAbsentFromZeroAndFromOtherTypes) {
+    KeyedArchiver archiver;
+    archiver.encode("zero", 0);
+    archiver.encode("off", false);
+    archiver.encode("empty", "");
+    archiver.encode("half", 0.25);
+    archiver.encode("half", 0.5);
+    archiver.encode("none", PropertyList());
+    archiver.encode("list", PropertyArray{1, 2});
+    const auto read = readPropertyList(binaryPropertyList(archiver.propertyList()));
+    ASSERT_TRUE(read);
+    const KeyedUnarchiver unarchiver(*read);
+    EXPECT_EQ(unarchiver.integer("zero"), 0);
+    EXPECT_EQ(unarchiver.number("zero"), 0.0);
+    EXPECT_EQ(unarchiver.boolean("off"), false);
+    EXPECT_EQ(unarchiver.text("empty"), "");
+    EXPECT_EQ(unarchiver.number("half"), 0.5); // the later one
+    EXPECT_EQ(unarchiver.array("list")->size(), 2U);
+    EXPECT_FALSE(unarchiver.boolean("zero") || unarchiver.integer("half") || unarchiver.number("empty"));
+    EXPECT_FALSE(unarchiver.array("half") || unarchiver.text("off") || unarchiver.integer("absent"));
+    EXPECT_FALSE(unarchiver.containsValueForKey("none") || unarchiver.containsValueForKey("absent"));
 }
 
 } // namespace
