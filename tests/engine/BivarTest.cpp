@@ -53,6 +53,14 @@ TEST(BivarReal, isExactWhereUsersCheck) {
         {Greater, 1, kNaN, 0}, {LessOrEqual, kNaN, kNaN, 0}, {Less, kNaN, 1, 0}, {BesselJ, 0, 1, kNaN},
         {BesselY, 0, 1, kNaN}, {Permutations, 5, 2, 20}, {Combinations, 10, 8, 45},
         {GreatestCommonDivisor, 12, 18, 6}, {LeastCommonMultiple, -4, 6, -12},
+        {Power, 2, 10, 1024}, {Power, 0, 0, 1}, {Power, 0, -1, kInfinity}, {Power, 0, 2, 0},
+        {Power, -2, 3, -8}, {Power, -2, -2, 0.25},
+        {Power, -8, 2147483649.0, -kInfinity}, // odd, and whole beyond 32 bits
+        {Power, -4, 0.5, {0, 2}}, {Power, -4, -0.5, {0, -0.5}}, {Power, -4, 1.5, {0, -8}},
+        {Power, -1, 1e15 + 0.5, kI}, {Power, -kInfinity, 0.5, {0, kInfinity}}, {Power, 1, kNaN, kNaN},
+        {Power, kNaN, 0, kNaN}, {Power, kI, kNaN, kNaN}, {Power, kI, 2, -1}, {Power, kI, 0, 1},
+        {Power, {1, 1}, -2, {0, -0.5}}, {Power, 0, {1, 1}, 0}, {Power, 0, {-1, 1}, kNaN},
+        {Power, 0, kI, kNaN}, {Power, 1, {3, -5}, 1}, {Power, kInfinity, 2, kInfinity},
     };
     // clang-format on
     expectValues(cases, 0);

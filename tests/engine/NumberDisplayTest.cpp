@@ -10,12 +10,6 @@
 namespace velmora {
 namespace {
 
-struct DisplayCase {
-    double number;
-    NumberStyle style;
-    const char* text;
-};
-
 TEST(NumberDisplay, writesNumbersInTheGivenStyle) {
     const NumberStyle full{.displayDigits = 10, .maxDigitsForDecimal = 10, .commas = true};
     const NumberStyle zeroes{.displayDigits = 4, .trailingZeroes = true, .maxDigitsForDecimal = 9};
@@ -23,7 +17,7 @@ TEST(NumberDisplay, writesNumbersInTheGivenStyle) {
     const NumberStyle exponents{.displayDigits = 2, .maxDigitsForDecimal = -400};
     const NumberStyle plain{.displayDigits = 0, .maxDigitsForDecimal = 400};
     // clang-format off
-    const DisplayCase cases[] = {
+    const std::tuple<double, NumberStyle, const char*> cases[] = {
         {3, full, "3"}, {0.5, full, "0.5"}, {1234.5, full, "1234.5"}, // four digits stay together
         {12345.6, full, "12,345.6"}, {1234567, full, "1,234,567"}, {123456, full, "123,456"},
         {-123456.7, full, "-,123,456.7"}, // the sign counts as a digit
@@ -45,8 +39,8 @@ TEST(NumberDisplay, writesNumbersInTheGivenStyle) {
         {-kInfinity, full, "Very negative or negative infinity"},
     };
     // clang-format on
-    for (const DisplayCase& c : cases) {
-        EXPECT_EQ(displayStringWithDouble(c.number, c.style), c.text) << c.number;
+    for (const auto& [number, style, text] : cases) {
+        EXPECT_EQ(displayStringWithDouble(number, style), text) << number;
     }
 }
 
