@@ -42,9 +42,9 @@ TEST(PropertyList, survivesTheBinaryForm) {
         "", "plain", "θ π √ – 1,5", "beyond sixteen bits: 𝜃😀", std::string(300, 'a'),
         PropertyData{}, PropertyData{0, 255, 10}, PropertyArray{}, PropertyDictionary{}, PropertyList(),
         PropertyArray{1, PropertyList(), "1", 1.0, true},
-        PropertyDictionary{{"", 1}, {"θ", PropertyArray{PropertyDictionary{{"a", "b"}}}}, {"-", PropertyList()}},
-        PropertyArray(1000, "the same text"), PropertyArray(1000, PropertyList(PropertyArray{1, 2})),
-        nested(kMaximumPropertyListDepth),
+        PropertyDictionary{{"", 1}, {"θ", PropertyArray{PropertyDictionary{{"a", "b"}}}}},
+        PropertyDictionary{{"none", PropertyList()}}, PropertyArray(1000, "the same text"),
+        PropertyArray(1000, PropertyList(PropertyArray{1, 2})), nested(kMaximumPropertyListDepth),
     };
     // clang-format on
     for (const PropertyList& list : lists) {
