@@ -117,13 +117,14 @@ TEST(SavingRegistry, runsEachSaverOnceInOrder) {
     const auto saver = [&](const char* name) { return [&saved, name] { saved.emplace_back(name); }; };
     registry.registerSaver("converter", saver("former"));
     registry.registerSaver("late", [&] { registry.registerSaver("later", saver("later")); });
+    registry.registerSaver("third", saver("third"));
     registry.registerSaver("last", saver("last"));
     registry.registerSaver("converter", saver("converter"));
     registry.saveAll();
-    EXPECT_THAT(saved, ElementsAre("converter", "last"));
+    EXPECT_THAT(saved, ElementsAre("converter", "third", "last"));
     registry.reset();
     registry.saveAll();
-    EXPECT_EQ(saved.size(), 2U);
+    EXPECT_EQ(saved.size(), 3U);
 }
 
 class Timers : public testing::Test {
