@@ -3,11 +3,10 @@
 #include "engine/Number.h"
 #include "engine/Variable.h"
 #include "tests/engine/TokenLine.h"
+#include "tests/platform/DecimalCommaLocale.h"
 #include "tests/platform/LogRecorder.h"
 
 #include <gtest/gtest.h>
-
-#include <clocale>
 
 namespace velmora {
 namespace {
@@ -120,18 +119,12 @@ TEST(Parser, namesWhatIsWrong) {
 
 TEST(Parser, whatHasNoValueIsUndefinedWithoutAnError) {
     Definitions user;
-    const std::pair<const char*, bool> rows[] = {// whether it may be drawn
-                                                 {"", false},
-                                                 {"''", false},
-                                                 {"@k1", false},
-                                                 {"2 @k1", false},
-                                                 {")", true},
-                                                 {"(", true},
-                                                 {",", true},
-                                                 {"1 / 0", true},
-                                                 {"x", true},
-                                                 {"y9( 1 )", true},
-                                                 {"conditional( 1 , 2 , 3 )", true}};
+    // clang-format off
+    const std::pair<const char*, bool> rows[] = { // whether it may be drawn
+        {"", false}, {"''", false}, {"@k1", false}, {"2 @k1", false}, {")", true}, {"(", true}, {",", true},
+        {"1 / 0", true}, {"x", true}, {"y9( 1 )", true}, {"conditional( 1 , 2 , 3 )", true},
+    };
+    // clang-format on
     for (const auto& [line, graphable] : rows) {
         EXPECT_EQ(shown(line), "Undefined") << line;
         EXPECT_EQ(parsed(line)->errorDescription(), std::nullopt) << line;
@@ -158,11 +151,15 @@ TEST(Parser, aConstantIsOneOperandWhateverItsTree) {
         double value; ///< at x = 5
         const char* tree;
     };
-    const Row rows[] = {{"2 @k1", 6, "(2)*((1)+(2))"},         {"@k1 x", 15, "((1)+(2))*(x)"},
-                        {"@k1 @k1", 9, "((1)+(2))*((1)+(2))"}, {"@k1 ^ 2", 9, "((1)+(2))^(2)"},
-                        {"- @k1 ^ 2", -9, "N[((1)+(2))^(2)]"}, {"6 / @k1 * 2", 4, "((6)/((1)+(2)))*(2)"},
-                        {"@k1 - 1", 2, "((1)+(2))-(1)"},       {"@k2 + @k1", 18, "(((1)+(2))*(x))+((1)+(2))"},
-                        {"@k1 ( 2 )", 6, "((1)+(2))*(2)"}};
+    // clang-format off
+    const Row rows[] = {
+        {"2 @k1", 6, "(2)*((1)+(2))"}, {"@k1 x", 15, "((1)+(2))*(x)"}, {"@k1 @k1", 9, "((1)+(2))*((1)+(2))"},
+        {"@k1 ^ 2", 9, "((1)+(2))^(2)"}, {"- @k1 ^ 2", -9, "N[((1)+(2))^(2)]"},
+        {"@k1 - 1", 2, "((1)+(2))-(1)"},
+        {"6 / @k1 * 2", 4, "((6)/((1)+(2)))*(2)"}, {"@k2 + @k1", 18, "(((1)+(2))*(x))+((1)+(2))"},
+        {"@k1 ( 2 )", 6, "((1)+(2))*(2)"},
+    };
+    // clang-format on
     for (const Row& row : rows) {
         EXPECT_EQ(valueAt(row.line, 5), row.value) << row.line;
         EXPECT_EQ(parsed(row.line)->description(), row.tree);
@@ -185,6 +182,8 @@ TEST(Parser, takesFinishedExpressionsAsOperands) {
     line.emplace_back(std::make_shared<const Variable>(2));
     const auto tree = Expression::newExpressionWithTokens(line);
     EXPECT_EQ(tree->description(), "(((2)*(((x)+(1))^(2)))*(x))-(xD)");
+    EXPECT_EQ(toDisplayString(line), "2^ansx-"); // what has no text is left out
+    EXPECT_EQ(NamedExpression(tokens("1 +"), "wrong").expression()->errorDescription(), "Unable to parse");
     EXPECT_EQ(tree->valueWithVariableValue(2.0), 34.0); // one variable given: every variable is it
     EXPECT_TRUE(isNaN(tree->valueWithVariableValues(2.0, 3.0)));
     TokenArray digits = tokens("1");
@@ -193,15 +192,11 @@ TEST(Parser, takesFinishedExpressionsAsOperands) {
     EXPECT_EQ(Expression::newExpressionWithTokens(digits)->value(), 10.0);
 }
 
-TEST(Parser, readsAndWritesAPointInEveryLocale) {
-    const std::string former = std::setlocale(LC_ALL, nullptr);
-    for (const char* name : {"de_DE.UTF-8", "de_DE", "fr_FR.UTF-8"}) {
-        std::setlocale(LC_ALL, name); // one that is not installed changes nothing
-    }
+TEST(Parser, readsAndWritesAPointInEveryLanguage) {
+    const DecimalCommaLocale locale;
     EXPECT_EQ(shown("1 . 5 + a=0.25"), "1.75");
     EXPECT_EQ(parsed("2 . 5")->description(), "2.5");
     EXPECT_EQ(shown("1 . 5 + i / 2"), "1.5+0.5i");
-    std::setlocale(LC_ALL, former.c_str());
 }
 
 } // namespace

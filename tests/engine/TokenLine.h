@@ -22,8 +22,14 @@ inline TokenArray tokens(const std::string& line) {
     return array;
 }
 
-inline TokenArray repeated(const std::string& text, int count) {
-    return TokenArray(static_cast<std::size_t>(count), tokens(text).front());
+/// The tokens of the line as often as that, one after the other.
+inline TokenArray repeated(const std::string& line, int count) {
+    const TokenArray once = tokens(line);
+    TokenArray array;
+    for (int i = 0; i < count; ++i) {
+        array.insert(array.end(), once.begin(), once.end());
+    }
+    return array;
 }
 
 inline std::unique_ptr<Expression> parsed(const std::string& line) {

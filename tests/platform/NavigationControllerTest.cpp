@@ -15,6 +15,22 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+TEST(ViewController, pressesBarButtonsAsAUserCan) {
+    Events events;
+    RecordingScreen screen("a", events);
+    int presses = 0;
+    const auto swap = [&] {
+        screen.setRightBarButtons({}); // frees the action that is running
+        ++presses;
+    };
+    screen.setRightBarButtons(
+        {{"Swap", swap}, {"Disabled", [&] { presses += 100; }, false}, {"Nothing", {}}});
+    EXPECT_FALSE(screen.pressRightBarButton(1) || screen.pressRightBarButton(3) ||
+                 screen.pressLeftBarButton(0));
+    EXPECT_TRUE(screen.pressRightBarButton(2) && screen.pressRightBarButton(0));
+    EXPECT_EQ(presses, 1);
+}
+
 /// A stack on display with one screen "a", whose hooks so far are forgotten.
 class Navigation : public testing::Test {
 protected:
@@ -36,48 +52,29 @@ TEST_F(Navigation, runsTheHooksInOrder) {
     const auto c = screen("c");
     const auto d = screen("d");
     const auto e = screen("e");
-    struct Step {
-        const char* what;
-        std::function<void()> run;
-        Events events;
-    };
     const Step steps[] = {
-        {"push",
-         [&] { stack.push(b); },
-         {"a willDisappear", "b load", "b willAppear", "a didDisappear", "b didAppear"}},
-        {"push again",
-         [&] { stack.push(c); },
-         {"b willDisappear", "c load", "c willAppear", "b didDisappear", "c didAppear"}},
+        {"push", [&] { stack.push(b); }, exchange("a", "b", Arriving::New)},
+        {"push again", [&] { stack.push(c); }, exchange("b", "c", Arriving::New)},
         {"replace a hidden root", [&] { stack.replaceRoot(d); }, {}},
         {"pop to what is on top already", [&] { stack.popTo(*c); }, {}},
-        {"pop to the root",
-         [&] { stack.popToRoot(); },
-         {"c willDisappear", "d load", "d willAppear", "c didDisappear", "d didAppear"}},
+        {"pop to the root", [&] { stack.popToRoot(); }, exchange("c", "d", Arriving::New)},
         {"pop the root", [&] { stack.pop(); }, {}},
-        {"push a former screen",
-         [&] { stack.push(b); },
-         {"d willDisappear", "b willAppear", "d didDisappear", "b didAppear"}},
-        {"pop", [&] { stack.pop(); }, {"b willDisappear", "d willAppear", "b didDisappear", "d didAppear"}},
-        {"replace the root on display",
-         [&] { stack.replaceRoot(e); },
-         {"d willDisappear", "e load", "e willAppear", "d didDisappear", "e didAppear"}},
-        {"go off display", [&] { stack.disappear(); }, {"e willDisappear", "e didDisappear"}},
+        {"push a former screen", [&] { stack.push(b); }, exchange("d", "b")},
+        {"pop", [&] { stack.pop(); }, exchange("b", "d")},
+        {"replace the root on display", [&] { stack.replaceRoot(e); }, exchange("d", "e", Arriving::New)},
+        {"go off display", [&] { stack.disappear(); }, exchange("e", "")},
         {"push while off display", [&] { stack.push(b); }, {}},
-        {"come on display", [&] { stack.appear(); }, {"b willAppear", "b didAppear"}},
+        {"come on display", [&] { stack.appear(); }, exchange("", "b")},
         {"come on display again", [&] { stack.appear(); }, {}},
     };
-    for (const Step& step : steps) {
-        events.clear();
-        step.run();
-        EXPECT_EQ(events, step.events) << step.what;
-    }
+    expectHooks(events, steps);
 }
 
 TEST_F(Navigation, refusesWhatCannotBeStacked) {
     const LogRecorder log;
     const auto b = screen("b");
-    stack.push(b);
     NavigationController other;
+    stack.push(b);
     stack.push(b);
     other.push(b);
     other.replaceRoot(a);
@@ -85,10 +82,15 @@ TEST_F(Navigation, refusesWhatCannotBeStacked) {
     EXPECT_THAT(stack.viewControllers(), ElementsAre(a, b));
     EXPECT_THAT(other.viewControllers(), IsEmpty());
     EXPECT_EQ(log.lines().size(), 4U);
+    EXPECT_FALSE(stack.popTo(*screen("elsewhere")) || other.topViewController() || other.pop());
     EXPECT_EQ(b->navigationController(), &stack);
-    EXPECT_FALSE(stack.popTo(*screen("elsewhere")));
-    EXPECT_EQ(other.topViewController(), nullptr);
-    EXPECT_EQ(other.pop(), nullptr);
+    EXPECT_EQ(stack.pop(), b);
+    EXPECT_EQ(b->navigationController(), nullptr) << "it has left";
+    {
+        NavigationController holder(b);
+        EXPECT_EQ(b->navigationController(), &holder);
+    }
+    EXPECT_EQ(b->navigationController(), nullptr);
 }
 
 TEST_F(Navigation, keepsTheNameOfTheWayBackWhenTheRootIsReplaced) {
@@ -101,40 +103,18 @@ TEST_F(Navigation, keepsTheNameOfTheWayBackWhenTheRootIsReplaced) {
     EXPECT_EQ(stack.rootViewController()->backButtonTitle(), "");
 }
 
-TEST_F(Navigation, clearsTheBackReferenceOfWhatLeaves) {
-    const auto b = screen("b");
-    stack.push(b);
-    EXPECT_EQ(stack.pop(), b);
-    EXPECT_EQ(b->navigationController(), nullptr);
-    {
-        NavigationController other(b);
-        EXPECT_EQ(b->navigationController(), &other);
-    }
-    EXPECT_EQ(b->navigationController(), nullptr);
-}
-
-TEST_F(Navigation, letsAScreenCloseItself) {
+TEST_F(Navigation, keepsAScreenThatClosesItselfUntilTheOutermostEventEnds) {
     stack.push(screen("b"));
-    std::weak_ptr<ViewController> weak = stack.topViewController();
+    const std::weak_ptr<ViewController> weak = stack.topViewController();
     ViewController* plain = stack.topViewController().get();
     plain->setRightBarButtons({{"Done", [this, plain] {
                                     stack.pop();
                                     stack.push(screen("c"));
                                     plain->setTitle("still here"); // must not be gone yet
                                 }}});
-    EXPECT_TRUE(plain->pressRightBarButton(0));
-    EXPECT_TRUE(weak.expired()) << "it goes when the button's action is over";
-}
-
-TEST_F(Navigation, keepsScreensUntilTheOutermostEventEnds) {
-    stack.push(screen("b"));
-    const std::weak_ptr<ViewController> weak = stack.topViewController();
     {
         const ActionScope outer;
-        {
-            const ActionScope inner;
-            stack.pop();
-        }
+        EXPECT_TRUE(plain->pressRightBarButton(0));
         EXPECT_FALSE(weak.expired());
     }
     EXPECT_TRUE(weak.expired());
@@ -151,20 +131,16 @@ TEST_F(Navigation, survivesHooksThatChangeTheStack) {
     EXPECT_THAT(stack.viewControllers(), ElementsAre(a));
     EXPECT_THAT(events, ElementsAre("a willDisappear", "b load", "b willAppear", "b willDisappear",
                                     "a willAppear", "b didDisappear", "a didAppear"));
-
-    events.clear();
     const auto c = screen("c");
     const auto d = screen("d");
     c->onEvent = [&](const std::string& event) {
         if (event == "c didAppear") {
-            c->onEvent = nullptr;
             stack.push(d);
         }
     };
     stack.push(c);
     EXPECT_THAT(stack.viewControllers(), ElementsAre(a, c, d));
-    EXPECT_TRUE(d->isVisible());
-    EXPECT_FALSE(c->isVisible());
+    EXPECT_TRUE(d->isVisible() && !c->isVisible());
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,35 +29,28 @@ TEST_F(Notifications, reachThoseWhoAskedForNameAndObject) {
     const Subscription one = centre.addObserver("pressed", recorder("one"), &row);
     const Subscription other = centre.addObserver("saved", recorder("saved"));
     centre.post("pressed", &row);
-    EXPECT_THAT(heard, ElementsAre("all", "one"));
-    heard.clear();
     centre.post("pressed", &otherRow);
     centre.post("pressed");
     centre.post("unknown", &row);
-    EXPECT_THAT(heard, ElementsAre("all", "all"));
+    EXPECT_THAT(heard, ElementsAre("all", "one", "all", "all"));
 }
 
 TEST_F(Notifications, allowObserversToComeAndGoDuringADelivery) {
-    std::optional<Subscription> added;
+    Subscription added;
     Subscription last;
-    Subscription self;
-    const Subscription first = centre.addObserver("n", [&](const Notification&) {
+    Subscription first;
+    first = centre.addObserver("n", [&](const Notification&) {
         heard.emplace_back("first");
+        added = centre.addObserver("n", recorder("added"));
         last.cancel();
-        if (!added) {
-            added = centre.addObserver("n", recorder("added"));
-        }
+        first.cancel();
     });
-    self = centre.addObserver("n", [&](const Notification&) {
-        heard.emplace_back("self");
-        self.cancel();
-    });
+    const Subscription middle = centre.addObserver("n", recorder("middle"));
     last = centre.addObserver("n", recorder("last"));
     centre.post("n");
-    EXPECT_THAT(heard, ElementsAre("first", "self"));
-    heard.clear();
+    EXPECT_THAT(heard, ElementsAre("first", "middle"));
     centre.post("n");
-    EXPECT_THAT(heard, ElementsAre("first", "added"));
+    EXPECT_THAT(heard, ElementsAre("first", "middle", "middle", "added"));
 }
 
 TEST_F(Notifications, endWithTheSubscriptionOrTheReset) {
@@ -67,14 +59,13 @@ TEST_F(Notifications, endWithTheSubscriptionOrTheReset) {
         Subscription moved = centre.addObserver("n", recorder("replaced"));
         moved = centre.addObserver("n", recorder("moved"));
         centre.post("n");
-        EXPECT_THAT(heard, ElementsAre("brief", "moved"));
     }
     centre.post("n");
     Subscription afterReset = centre.addObserver("n", recorder("gone"));
     centre.reset();
     centre.post("n");
     afterReset.cancel();
-    EXPECT_EQ(heard.size(), 2U);
+    EXPECT_THAT(heard, ElementsAre("brief", "moved"));
 }
 
 TEST(Signal, mayBeDestroyedByAListener) {

@@ -1,15 +1,12 @@
 #include "platform/PropertyList.h"
 
-#include "tests/platform/TemporaryFolder.h"
+#include "platform/KeyedArchive.h"
+#include "tests/platform/DecimalCommaLocale.h"
 
 #include <gtest/gtest.h>
 
 #include <bit>
-#include <clocale>
 #include <cmath>
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <string>
 
@@ -18,6 +15,14 @@ namespace {
 
 std::string xml(const std::string& content) {
     return R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0">)" + content + "</plist>";
+}
+
+std::string repeated(const std::string& text, int count) {
+    std::string all;
+    for (int i = 0; i < count; ++i) {
+        all += text;
+    }
+    return all;
 }
 
 PropertyList nested(int depth) {
@@ -31,190 +36,122 @@ PropertyList nested(int depth) {
 
 TEST(PropertyList, survivesTheBinaryForm) {
     using Limits = std::numeric_limits<std::int64_t>;
+    // clang-format off
     const PropertyList lists[] = {
-        true,
-        false,
-        0,
-        -1,
-        255,
-        65536,
-        Limits::max(),
-        Limits::min(),
-        0.5,
-        "",
-        "plain",
-        "θ π √ – 1,5",
-        "beyond sixteen bits: 𝜃😀",
-        std::string(300, 'a'),
-        PropertyData{},
-        PropertyData{0, 255, 10},
-        PropertyArray{},
-        PropertyDictionary{},
-        PropertyList(),
+        true, false, 0, -1, 255, 65536, Limits::max(), Limits::min(), 0.5,
+        "", "plain", "θ π √ – 1,5", "beyond sixteen bits: 𝜃😀", std::string(300, 'a'),
+        PropertyData{}, PropertyData{0, 255, 10}, PropertyArray{}, PropertyDictionary{}, PropertyList(),
         PropertyArray{1, PropertyList(), "1", 1.0, true},
-        PropertyDictionary{
-            {"", 1}, {"θ", PropertyArray{PropertyDictionary{{"a", "b"}}}}, {"none", PropertyList()}},
-        PropertyArray(1000, "the same text"),
-        PropertyArray(1000, PropertyList(PropertyArray{1, 2})),
-        nested(kMaximumPropertyListDepth),
+        PropertyDictionary{{"", 1}, {"θ", PropertyArray{PropertyDictionary{{"a", "b"}}}}},
+        PropertyDictionary{{"none", PropertyList()}}, PropertyArray(1000, "the same text"),
+        PropertyArray(1000, PropertyList(PropertyArray{1, 2})), nested(kMaximumPropertyListDepth),
     };
-    for (std::size_t row = 0; row < std::size(lists); ++row) {
-        SCOPED_TRACE(row);
-        EXPECT_EQ(readPropertyList(binaryPropertyList(lists[row])), lists[row]);
+    // clang-format on
+    for (const PropertyList& list : lists) {
+        EXPECT_EQ(readPropertyList(binaryPropertyList(list)), list) << "row " << &list - lists;
     }
 }
 
 TEST(PropertyList, keepsEveryBitOfADouble) {
     using Limits = std::numeric_limits<double>;
     // All in one array: equal values are stored once, and 0.0 == -0.0.
-    const std::vector<double> values{0.0,
-                                     -0.0,
-                                     0.1,
-                                     1.0 / 3,
-                                     1.5,
-                                     Limits::max(),
-                                     Limits::min(),
-                                     -Limits::min(),
-                                     Limits::denorm_min(),
-                                     1e-40,
-                                     16777217.0,
-                                     Limits::infinity(),
-                                     3.4028235e38,
-                                     1e39,
-                                     -Limits::infinity()};
-    PropertyArray array;
-    for (const double value : values) {
-        array.emplace_back(value);
+    PropertyArray array{0.0, -0.0, 0.1, 1.0 / 3, 1.5, 1e-40, 16777217.0, 3.4028235e38, 1e39};
+    for (const double extreme : {Limits::max(), Limits::min(), Limits::denorm_min(), Limits::infinity()}) {
+        array.emplace_back(extreme);
+        array.emplace_back(-extreme);
     }
-    array.emplace_back(Limits::quiet_NaN());
-    const std::optional<PropertyList> read = readPropertyList(binaryPropertyList(array));
-    ASSERT_TRUE(read && read->asArray() && read->asArray()->size() == array.size());
-    for (std::size_t row = 0; row < values.size(); ++row) {
-        const double* value = std::get_if<double>(&(*read->asArray())[row].value());
-        ASSERT_TRUE(value) << row;
-        EXPECT_EQ(std::bit_cast<std::uint64_t>(*value), std::bit_cast<std::uint64_t>(values[row])) << row;
+    const auto list = readPropertyList(binaryPropertyList(array)).value();
+    ASSERT_EQ(list.asArray()->size(), array.size());
+    for (std::size_t row = 0; row < array.size(); ++row) {
+        const double written = std::get<double>(array[row].value());
+        const double read = std::get<double>(list.asArray()->at(row).value());
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(read), std::bit_cast<std::uint64_t>(written)) << written;
     }
-    EXPECT_TRUE(std::isnan(read->asArray()->back().asDouble().value_or(0)));
+    const auto nothing = readPropertyList(binaryPropertyList(Limits::quiet_NaN()));
+    EXPECT_TRUE(std::isnan(nothing->asDouble().value_or(0)));
 }
 
 TEST(PropertyList, replacesWhatTextCannotHold) {
-    struct TextCase {
-        std::string text;
-        const char* read;
-    };
-    const TextCase cases[] = {
+    const std::pair<std::string, const char*> cases[] = {
         {std::string("a\0b", 3), "a\uFFFDb"},
         {"\xFF", "\uFFFD"},
         {"2\xCE", "2\uFFFD"},                   // a code point cut short
         {"\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"}, // a lone surrogate
     };
-    for (const TextCase& c : cases) {
-        SCOPED_TRACE(c.read);
-        EXPECT_EQ(readPropertyList(binaryPropertyList(c.text)), PropertyList(c.read));
-        EXPECT_EQ(readPropertyList(binaryPropertyList(PropertyDictionary{{c.text, 1}})),
-                  PropertyList(PropertyDictionary{{c.read, 1}}));
+    for (const auto& [text, read] : cases) {
+        EXPECT_EQ(readPropertyList(binaryPropertyList(text)), PropertyList(read));
+        EXPECT_EQ(readPropertyList(binaryPropertyList(PropertyDictionary{{text, 1}})),
+                  PropertyList(PropertyDictionary{{read, 1}}));
     }
 }
 
 TEST(PropertyList, readsXml) {
-    struct XmlCase {
-        std::string content;
-        PropertyList list;
-    };
-    const XmlCase cases[] = {
-        {"<string>m=1|metres#m++0</string>", "m=1|metres#m++0"},
+    using Limits = std::numeric_limits<std::int64_t>;
+    // clang-format off
+    const std::pair<const char*, PropertyList> cases[] = {
+        {"<string>m=1|metres#m++0</string>", "m=1|metres#m++0"}, {"<string></string>", ""}, {"<string/>", ""},
         {"<string> a &lt;&amp;&gt; &quot;b&quot; θ </string>", " a <&> \"b\" θ "},
-        {"<string></string>", ""},
-        {"<string/>", ""},
-        {"<integer>-42</integer>", -42},
-        {"<integer>9223372036854775807</integer>", std::numeric_limits<std::int64_t>::max()},
-        {"<integer>-9223372036854775808</integer>", std::numeric_limits<std::int64_t>::min()},
+        {"<integer>-42</integer>", -42}, {"<integer>9223372036854775807</integer>", Limits::max()},
+        {"<integer>-9223372036854775808</integer>", Limits::min()},
         {"<integer>18446744073709551615</integer>", 18446744073709551615.0},
-        {"<real>0.1</real>", 0.1},
-        {"<real>-2.5E-10</real>", -2.5e-10},
-        {"<true/>", true},
+        {"<real>0.1</real>", 0.1}, {"<real>-2.5E-10</real>", -2.5e-10}, {"<true/>", true},
         {"<false/>", false},
-        {"<data>AP8K</data>", PropertyData{0, 255, 10}},
-        {"<array/>", PropertyArray{}},
+        {"<data>AP8K</data>", PropertyData{0, 255, 10}}, {"<array/>", PropertyArray{}},
         {"<dict/>", PropertyDictionary{}},
         {"<array><string>sin(</string>\n  <dict><key>content</key><string>cos(</string></dict></array>",
          PropertyArray{"sin(", PropertyDictionary{{"content", "cos("}}}},
         {"<!-- <array> --><array><!-- </array> --><true/></array>", PropertyArray{true}},
     };
-    for (const XmlCase& c : cases) {
-        SCOPED_TRACE(c.content);
-        EXPECT_EQ(readPropertyList(xml(c.content)), c.list);
+    // clang-format on
+    for (const auto& [content, list] : cases) {
+        EXPECT_EQ(readPropertyList(xml(content)), list) << content;
     }
     EXPECT_EQ(readPropertyList("\xEF\xBB\xBF\n" + xml("<true/>")), PropertyList(true));
 }
 
 TEST(PropertyList, refusesXmlThatIsNone) {
-    const std::string deep(200'000, ' ');
-    std::string arrays;
-    std::string hidden;
-    for (int level = 0; level <= kMaximumPropertyListDepth; ++level) {
-        arrays += "<array>";
-        hidden += "<array><!-- </array> -->";
-    }
-    std::string endless;
-    for (int level = 0; level < 300'000; ++level) {
-        endless += "<dict><key>k</key>";
-    }
-    const std::string texts[] = {"",
-                                 " ",
-                                 "plain text",
-                                 "<",
-                                 "<plist>",
-                                 xml(""),
-                                 xml("<array>"),
-                                 xml("<unknown/>"),
-                                 xml("<array><string>a</array>"),
-                                 xml("<dict><string>no key</string></dict>"),
-                                 xml(arrays),
-                                 xml(hidden),
-                                 endless,
-                                 xml("<string>\xFF</string>"),
-                                 deep};
+    // clang-format off
+    const std::string texts[] = {
+        "", " ", "plain text", "<", "<plist>", xml(""), xml("<array>"), xml("<unknown/>"),
+        xml("<array><string>a</array>"), xml("<dict><string>no key</string></dict>"),
+        xml("<string>\xFF</string>"),
+        xml(repeated("<array>", kMaximumPropertyListDepth + 1)),
+        xml(repeated("<array><!-- </array> -->", kMaximumPropertyListDepth + 1)),
+        repeated("<dict><key>k</key>", 300'000), std::string(200'000, ' '),
+    };
+    // clang-format on
     for (const std::string& text : texts) {
-        SCOPED_TRACE(text.substr(0, 100));
-        EXPECT_EQ(readPropertyList(text), std::nullopt);
+        EXPECT_EQ(readPropertyList(text), std::nullopt) << text.substr(0, 100);
     }
 }
 
-/// Puts a locale in force whose decimal mark is a comma, made from the machine's plain one.
-class DecimalCommaLocale {
-public:
-    DecimalCommaLocale() {
-        std::ifstream plain("/usr/lib/locale/C.utf8/LC_NUMERIC", std::ios::binary);
-        std::string bytes{std::istreambuf_iterator<char>(plain), {}};
-        std::replace(bytes.begin(), bytes.end(), '.', ',');
-        std::filesystem::create_directory(m_folder.path() / "comma");
-        std::ofstream(m_folder.path() / "comma" / "LC_NUMERIC", std::ios::binary) << bytes;
-        ::setenv("LOCPATH", m_folder.path().c_str(), 1);
-        const bool made = std::setlocale(LC_NUMERIC, "comma") != nullptr;
-        m_inForce = (made || std::setlocale(LC_NUMERIC, "de_DE.UTF-8")) && std::strtod("1,5", nullptr) == 1.5;
-    }
-    ~DecimalCommaLocale() {
-        std::setlocale(LC_NUMERIC, "C");
-        ::unsetenv("LOCPATH");
-    }
-    DecimalCommaLocale(const DecimalCommaLocale&) = delete;
-    DecimalCommaLocale& operator=(const DecimalCommaLocale&) = delete;
-
-    bool inForce() const { return m_inForce; }
-
-private:
-    TemporaryFolder m_folder;
-    bool m_inForce = false;
-};
-
 TEST(PropertyList, doesNotDependOnTheLocale) {
     const DecimalCommaLocale locale;
-    if (!locale.inForce()) {
-        GTEST_SKIP() << "this machine offers no locale with a decimal comma";
-    }
     EXPECT_EQ(readPropertyList(xml("<real>2.75</real>")), PropertyList(2.75));
     EXPECT_EQ(std::strtod("1,5", nullptr), 1.5) << "the locale in force must come back";
+}
+
+TEST(KeyedArchive, tellsAbsentFromZeroAndFromOtherTypes) {
+    KeyedArchiver archiver;
+    archiver.encode("zero", 0);
+    archiver.encode("off", false);
+    archiver.encode("empty", "");
+    archiver.encode("half", 0.25);
+    archiver.encode("half", 0.5);
+    archiver.encode("none", PropertyList());
+    archiver.encode("list", PropertyArray{1, 2});
+    const auto read = readPropertyList(binaryPropertyList(archiver.propertyList()));
+    ASSERT_TRUE(read);
+    const KeyedUnarchiver unarchiver(*read);
+    EXPECT_EQ(unarchiver.integer("zero"), 0);
+    EXPECT_EQ(unarchiver.number("zero"), 0.0);
+    EXPECT_EQ(unarchiver.boolean("off"), false);
+    EXPECT_EQ(unarchiver.text("empty"), "");
+    EXPECT_EQ(unarchiver.number("half"), 0.5); // the later one
+    EXPECT_EQ(unarchiver.array("list")->size(), 2U);
+    EXPECT_FALSE(unarchiver.boolean("zero") || unarchiver.integer("half") || unarchiver.number("empty"));
+    EXPECT_FALSE(unarchiver.array("half") || unarchiver.text("off") || unarchiver.integer("absent"));
+    EXPECT_FALSE(unarchiver.containsValueForKey("none") || unarchiver.containsValueForKey("absent"));
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "platform/ViewController.h"
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -23,16 +25,15 @@ public:
     void viewDidAppear(bool) override { record("didAppear"); }
     void viewWillDisappear(bool) override { record("willDisappear"); }
     void viewDidDisappear(bool) override { record("didDisappear"); }
-    void willAnimateRotation(Orientation) override { record("willRotate"); }
-    void didRotate(Orientation) override { record("didRotate"); }
+
     bool shouldAutorotate(Orientation orientation) const override {
-        return !allowed || orientation == *allowed;
+        return orientation == allowed.value_or(orientation);
     }
 
+    /// The one orientation it allows; nothing for any.
+    std::optional<Orientation> allowed;
     /// Runs after each hook was written down.
     std::function<void(const std::string&)> onEvent;
-    /// The only orientation allowed, if any is set.
-    std::optional<Orientation> allowed;
 
 private:
     void record(const std::string& hook) {
@@ -46,5 +47,33 @@ private:
     std::string m_name;
     Events& m_events;
 };
+
+/// The hooks of an exchange of the screen on display. An empty name: there is none on that side. A new screen
+/// is loaded first.
+enum class Arriving { Known, New };
+inline Events exchange(const std::string& leaving, const std::string& arriving,
+                       Arriving kind = Arriving::Known) {
+    Events events{leaving + " willDisappear", arriving + " load", arriving + " willAppear",
+                  leaving + " didDisappear", arriving + " didAppear"};
+    std::erase_if(events, [kind](const std::string& event) {
+        return event.starts_with(' ') || (kind == Arriving::Known && event.ends_with("load"));
+    });
+    return events;
+}
+
+/// One thing done, and the hooks that it must run.
+struct Step {
+    const char* what;
+    std::function<void()> run;
+    Events expected;
+};
+
+template <std::size_t count> void expectHooks(Events& events, const Step (&steps)[count]) {
+    for (const Step& step : steps) {
+        events.clear();
+        step.run();
+        EXPECT_EQ(events, step.expected) << step.what;
+    }
+}
 
 } // namespace velmora
