@@ -17,10 +17,10 @@ class GraphPicture {
 public:
     virtual ~GraphPicture() = default;
 
-    /// The picture on display, as a PNG file's bytes; empty when there is none.
-    virtual std::vector<std::uint8_t> png() const = 0;
+    /// The present picture, as a PNG file's bytes; empty when there is none.
+    virtual std::vector<std::uint8_t> png() = 0;
     /// Writes it to a new file among the user's pictures and gives the file's path; nothing on failure.
-    virtual std::optional<std::string> savePng() const = 0;
+    virtual std::optional<std::string> savePng() = 0;
 };
 
 /// The graph's screen: fingers, wheel and keys move the view, and menus trace and share it.

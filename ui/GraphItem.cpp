@@ -116,7 +116,8 @@ void GraphItem::paint(QPainter& painter) {
     }
 }
 
-std::vector<std::uint8_t> GraphItem::png() const {
+std::vector<std::uint8_t> GraphItem::png() {
+    ensurePolished(); // what has changed since the last frame is in the picture
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (picture().isNull() || !buffer.open(QIODevice::WriteOnly) || !picture().save(&buffer, "PNG")) {
@@ -125,7 +126,8 @@ std::vector<std::uint8_t> GraphItem::png() const {
     return {bytes.begin(), bytes.end()};
 }
 
-std::optional<std::string> GraphItem::savePng() const {
+std::optional<std::string> GraphItem::savePng() {
+    ensurePolished();
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
     if (picture().isNull() || !folder.mkpath(QStringLiteral("."))) {
         return std::nullopt;

@@ -25,8 +25,8 @@ public:
     GraphAdapter* screen() const { return m_screen; }
     void setScreen(GraphAdapter* screen);
 
-    std::vector<std::uint8_t> png() const override;
-    std::optional<std::string> savePng() const override;
+    std::vector<std::uint8_t> png() override;
+    std::optional<std::string> savePng() override;
 
 protected:
     void paint(QPainter& painter) override;

@@ -228,8 +228,8 @@ TEST_F(GraphGestures, aTraceShowsValuesAndMarks) {
 TEST_F(GraphGestures, aPictureIsSharedOrItIsSaidWhyNot) {
     class Picture final : public GraphPicture {
     public:
-        std::vector<std::uint8_t> png() const override { return {1, 2, 3}; }
-        std::optional<std::string> savePng() const override { return "here.png"; }
+        std::vector<std::uint8_t> png() override { return {1, 2, 3}; }
+        std::optional<std::string> savePng() override { return "here.png"; }
     } picture;
     controller->setPicture(&picture);
     controller->showGraphMenu();

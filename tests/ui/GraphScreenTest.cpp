@@ -166,9 +166,9 @@ TEST_P(GraphScreen, mouseWheelAndKeysWorkItToo) {
     program.press(Qt::Key_Escape);
 
     auto* screen = qobject_cast<GraphAdapter*>(graph->property("screen").value<QObject*>());
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return static_cast<GraphViewController&>(screen->controller()).graphView().isRefined(); }));
-    program.settle(); // nothing of the picture is missing
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return !told().startsWith(u"x=") && screen->controller().graphView().isRefined();
+    })) << "nothing of the picture is missing";
     program.press(Qt::Key_C, Qt::ControlModifier);
     const auto png = generalPasteboard().data(kPngType);
     ASSERT_TRUE(png);
