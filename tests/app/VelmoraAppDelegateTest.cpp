@@ -9,6 +9,7 @@
 #include "platform/ScreenRegistry.h"
 #include "platform/SettingsTargetRegistry.h"
 #include "platform/Sound.h"
+#include "tests/platform/NamedScreen.h"
 #include "tests/platform/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -18,15 +19,6 @@
 
 namespace velmora::test {
 namespace {
-
-class NamedScreen final : public ViewController {
-public:
-    explicit NamedScreen(std::string name) : m_name(std::move(name)) {}
-    std::string className() const override { return m_name; }
-
-private:
-    std::string m_name;
-};
 
 class VelmoraAppDelegateTest : public testing::Test {
 public:

@@ -1,4 +1,5 @@
 #include "tests/calculator/CalculatorFixture.h"
+#include "tests/platform/NamedScreen.h"
 
 #include "calculator/KeyboardGeometry.h"
 #include "calculator/ModelProperties.h"
@@ -221,15 +222,6 @@ TEST_F(ModelTest, engineFollowsTheSettings) {
     Model::resetForTests();
     EXPECT_EQ(result("sin( 9 0 )"), "0.894");
 }
-
-class NamedScreen final : public ViewController {
-public:
-    explicit NamedScreen(std::string name) : m_name(std::move(name)) {}
-    std::string className() const override { return m_name; }
-
-private:
-    std::string m_name;
-};
 
 TEST_F(ModelTest, graphTypeChoosesTheEditorOfTheSecondTab) {
     Model& model = Model::m();
