@@ -1,37 +1,48 @@
 #include "app/Registrations.h"
 
-#include "calculator/FunctionSelectViewController.h"
-#include "calculator/KeyboardViewController.h"
-#include "calculator/Model.h"
-#include "calculator/PageViewController.h"
-#include "calculator/RangeViewController.h"
-#include "calculator/SettingsViewController.h"
-#include "graphing/EquationsViewController.h"
-#include "graphing/GraphViewController.h"
-#include "graphing/ParametricEquationsViewController.h"
-#include "platform/SavingRegistry.h"
-#include "platform/ScreenRegistry.h"
-#include "platform/SettingsTargetRegistry.h"
-#include "tools/UnitConverterModel.h"
+#include "calculator/keyboard/KeyboardViewController.h"
+#include "calculator/lists/FunctionSelectViewController.h"
+#include "calculator/model/Model.h"
+#include "calculator/pages/PageViewController.h"
+#include "calculator/settings/RangeViewController.h"
+#include "calculator/settings/SettingsViewController.h"
+#include "graphing/equations/EquationsViewController.h"
+#include "graphing/equations/ParametricEquationsViewController.h"
+#include "graphing/screen/GraphViewController.h"
+#include "platform/files/SavingRegistry.h"
+#include "platform/screens/ScreenRegistry.h"
+#include "platform/screens/SettingsTargetRegistry.h"
+#include "tools/units/UnitConverterModel.h"
 
 namespace velmora {
 
+namespace {
+
+template <class Screen> std::shared_ptr<ViewController> make() { return std::make_shared<Screen>(); }
+
+struct ScreenRow {
+    const char* name;
+    std::shared_ptr<ViewController> (*make)();
+};
+
+/// The screens that are opened by name, in alphabetical order: a new screen is one line here, and one in
+/// ui/adapters/ScreenAdapters.cpp for what shows it.
+constexpr ScreenRow kScreens[] = {
+    {"EquationsViewController", make<EquationsViewController>},
+    {"FunctionSelectViewController", make<FunctionSelectViewController>},
+    {"GraphViewController", make<GraphViewController>},
+    {"KeyboardViewController", make<KeyboardViewController>},
+    {"ParametricEquationsViewController", make<ParametricEquationsViewController>},
+    {"RangeViewController", make<RangeViewController>},
+    {"SettingsViewController", make<SettingsViewController>},
+};
+
+} // namespace
+
 void registerEverything() {
-    ScreenRegistry::shared().registerScreen("KeyboardViewController",
-                                            [] { return std::make_shared<KeyboardViewController>(); });
-    ScreenRegistry::shared().registerScreen("FunctionSelectViewController",
-                                            [] { return std::make_shared<FunctionSelectViewController>(); });
-    ScreenRegistry::shared().registerScreen("SettingsViewController",
-                                            [] { return std::make_shared<SettingsViewController>(); });
-    ScreenRegistry::shared().registerScreen("RangeViewController",
-                                            [] { return std::make_shared<RangeViewController>(); });
-    ScreenRegistry::shared().registerScreen("GraphViewController",
-                                            [] { return std::make_shared<GraphViewController>(); });
-    ScreenRegistry::shared().registerScreen("EquationsViewController",
-                                            [] { return std::make_shared<EquationsViewController>(); });
-    ScreenRegistry::shared().registerScreen("ParametricEquationsViewController", [] {
-        return std::make_shared<ParametricEquationsViewController>();
-    });
+    for (const ScreenRow& screen : kScreens) {
+        ScreenRegistry::shared().registerScreen(screen.name, screen.make);
+    }
     registerPages();
     SettingsTargetRegistry::shared().registerTarget("Model", Model::m());
     SettingsTargetRegistry::shared().registerTarget("UnitConverterModel", UnitConverterModel::ucm());

@@ -1,14 +1,14 @@
 #include "app/VelmoraAppDelegate.h"
 
 #include "app/Registrations.h"
-#include "calculator/FunctionListScreen.h"
-#include "calculator/KeyboardViewController.h"
-#include "calculator/Model.h"
-#include "platform/Log.h"
-#include "platform/NavigationController.h"
-#include "platform/ScreenRegistry.h"
-#include "platform/Sound.h"
-#include "platform/StaticObjectManager.h"
+#include "calculator/keyboard/FunctionListScreen.h"
+#include "calculator/keyboard/KeyboardViewController.h"
+#include "calculator/model/Model.h"
+#include "platform/machine/Sound.h"
+#include "platform/machine/StaticObjectManager.h"
+#include "platform/screens/NavigationController.h"
+#include "platform/screens/ScreenRegistry.h"
+#include "platform/text/Log.h"
 #include "resources/CompiledResources.h"
 
 #include <array>

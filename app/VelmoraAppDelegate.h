@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/TabBarController.h"
+#include "platform/screens/TabBarController.h"
 
 #include <memory>
 

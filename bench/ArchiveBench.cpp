@@ -1,9 +1,9 @@
 // Saving and loading a model filled to its limits: with the file, which is flushed to the disk.
 
-#include "calculator/Model.h"
-#include "engine/Token.h"
-#include "platform/DocumentsFolder.h"
-#include "platform/Log.h"
+#include "calculator/model/Model.h"
+#include "engine/lines/Token.h"
+#include "platform/machine/DocumentsFolder.h"
+#include "platform/text/Log.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 // One evaluation of a line: the tree, the same function written by hand, and muParser.
 
 #include "bench/Lines.h"
-#include "engine/Expression.h"
+#include "engine/tree/Expression.h"
 
 #include <benchmark/benchmark.h>
 #include <muParser.h>

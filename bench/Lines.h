@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/ComplexValue.h"
-#include "engine/TokenElement.h"
+#include "engine/lines/TokenElement.h"
+#include "engine/numbers/ComplexValue.h"
 
 #include <string>
 #include <vector>

@@ -2,7 +2,7 @@
 
 #include "bench/AllocationCount.h"
 #include "bench/Lines.h"
-#include "engine/Expression.h"
+#include "engine/tree/Expression.h"
 
 #include <benchmark/benchmark.h>
 #include <muParser.h>

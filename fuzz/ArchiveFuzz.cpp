@@ -1,10 +1,10 @@
 // What a file may bring into the model: anything a property list can say.
 
-#include "calculator/Model.h"
-#include "calculator/ModelArchive.h"
-#include "engine/Expression.h"
+#include "calculator/model/Model.h"
+#include "calculator/model/ModelArchive.h"
+#include "engine/tree/Expression.h"
 #include "fuzz/FuzzTarget.h"
-#include "platform/Log.h"
+#include "platform/text/Log.h"
 
 #include <cmath>
 #include <cstdlib>

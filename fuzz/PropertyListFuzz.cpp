@@ -1,5 +1,5 @@
 #include "fuzz/FuzzTarget.h"
-#include "platform/PropertyList.h"
+#include "platform/files/PropertyList.h"
 
 #include <cmath>
 #include <cstdlib>

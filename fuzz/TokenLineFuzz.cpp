@@ -1,14 +1,14 @@
 // Lines of tokens, as a person or a file may bring them: edited, shown, parsed, evaluated, archived.
 // An input is a series of bytes; each names a token of the table below or an edit of the line.
 
-#include "engine/Environment.h"
-#include "engine/Expression.h"
-#include "engine/ExpressionList.h"
-#include "engine/NamedExpressionList.h"
-#include "engine/Number.h"
+#include "engine/environment/Environment.h"
+#include "engine/lines/ExpressionList.h"
+#include "engine/lines/NamedExpressionList.h"
+#include "engine/tree/Expression.h"
+#include "engine/tree/Number.h"
 #include "fuzz/FuzzTarget.h"
-#include "platform/KeyedArchive.h"
-#include "platform/Log.h"
+#include "platform/files/KeyedArchive.h"
+#include "platform/text/Log.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "toolkit/LabelRecord.h"
 
-#include "platform/TextMeasure.h"
+#include "platform/machine/TextMeasure.h"
 
 #include <algorithm>
 

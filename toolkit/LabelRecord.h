@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Color.h"
-#include "platform/Geometry.h"
+#include "platform/screens/Color.h"
+#include "platform/screens/Geometry.h"
 
 #include <optional>
 #include <string>

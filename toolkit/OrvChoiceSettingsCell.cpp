@@ -1,6 +1,6 @@
 #include "toolkit/OrvChoiceSettingsCell.h"
 
-#include "platform/PropertyList.h"
+#include "platform/files/PropertyList.h"
 #include "toolkit/OrvPickTableViewController.h"
 
 namespace velmora {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Geometry.h"
+#include "platform/screens/Geometry.h"
 
 namespace velmora {
 

@@ -1,7 +1,7 @@
 #include "toolkit/OrvNumberSettingsCell.h"
 
-#include "platform/Alert.h"
-#include "platform/PropertyList.h"
+#include "platform/files/PropertyList.h"
+#include "platform/machine/Alert.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "toolkit/OrvPickTableViewController.h"
 
-#include "platform/NavigationController.h"
+#include "platform/screens/NavigationController.h"
 #include "toolkit/OrvSettingsCell.h"
 
 namespace velmora {

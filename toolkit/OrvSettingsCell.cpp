@@ -1,6 +1,6 @@
 #include "toolkit/OrvSettingsCell.h"
 
-#include "platform/SettingsTargetRegistry.h"
+#include "platform/screens/SettingsTargetRegistry.h"
 
 namespace velmora {
 

@@ -1,6 +1,6 @@
 #include "toolkit/OrvSettingsTableViewController.h"
 
-#include "platform/NavigationController.h"
+#include "platform/screens/NavigationController.h"
 
 namespace velmora {
 

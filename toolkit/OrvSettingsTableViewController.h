@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ViewController.h"
+#include "platform/screens/ViewController.h"
 #include "toolkit/OrvSettingsCell.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 #include "toolkit/OrvTextSettingsCell.h"
 
-#include "platform/PropertyList.h"
-#include "platform/ScreenRegistry.h"
+#include "platform/files/PropertyList.h"
+#include "platform/screens/ScreenRegistry.h"
 
 namespace velmora {
 

@@ -1,8 +1,8 @@
 #include "ui/Application.h"
 
-#include "platform/TabBarController.h"
-#include "ui/Artwork.h"
-#include "ui/SystemFont.h"
+#include "platform/screens/TabBarController.h"
+#include "ui/painting/Artwork.h"
+#include "ui/painting/SystemFont.h"
 
 #include <QGuiApplication>
 #include <QQmlEngine>

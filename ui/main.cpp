@@ -1,8 +1,8 @@
-#include "platform/Log.h"
+#include "platform/text/Log.h"
 #include "ui/Application.h"
-#include "ui/RendererChoice.h"
-#include "ui/StartReport.h"
-#include "ui/TerminationSignals.h"
+#include "ui/machine/RendererChoice.h"
+#include "ui/machine/StartReport.h"
+#include "ui/machine/TerminationSignals.h"
 
 #include <QGuiApplication>
 

@@ -1,11 +1,11 @@
 // A frame of four curves, sampled from the user's expressions and from hand-written functions, both painted
 // by the same painter on a tablet's picture of two pixels a point.
 
-#include "engine/Expression.h"
-#include "engine/Token.h"
-#include "graphing/CurvePlotter.h"
-#include "platform/Clock.h"
-#include "ui/QtDrawingContext.h"
+#include "engine/lines/Token.h"
+#include "engine/tree/Expression.h"
+#include "graphing/plot/CurvePlotter.h"
+#include "platform/machine/Clock.h"
+#include "ui/painting/QtDrawingContext.h"
 
 #include <QGuiApplication>
 #include <QImage>

@@ -2,9 +2,9 @@
 // stands.
 
 #include "bench/screen/StepMeasure.h"
-#include "calculator/Model.h"
-#include "engine/Token.h"
-#include "platform/TabBarController.h"
+#include "calculator/model/Model.h"
+#include "engine/lines/Token.h"
+#include "platform/screens/TabBarController.h"
 #include "ui/Application.h"
 
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 // A window with forty plain keys and nothing behind them, measured as the program is.
 
-#include "ui/RendererChoice.h"
-#include "ui/StartReport.h"
+#include "ui/machine/RendererChoice.h"
+#include "ui/machine/StartReport.h"
 
 #include <QGuiApplication>
 #include <QQuickView>

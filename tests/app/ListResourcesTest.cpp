@@ -1,10 +1,10 @@
 // The lists and pages that ship with the program: everything in them can be used.
 
-#include "calculator/FunctionList.h"
-#include "engine/BivarTable.h"
-#include "engine/UnivarTable.h"
-#include "platform/KeyedArchive.h"
-#include "platform/Resources.h"
+#include "calculator/lists/FunctionList.h"
+#include "engine/functions/BivarTable.h"
+#include "engine/functions/UnivarTable.h"
+#include "platform/files/KeyedArchive.h"
+#include "platform/files/Resources.h"
 #include "resources/CompiledResources.h"
 #include "tests/engine/TokenLine.h"
 #include "tests/engine/UlpDistance.h"

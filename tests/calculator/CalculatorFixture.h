@@ -1,17 +1,17 @@
 #pragma once
 
-#include "calculator/CalculatorButton.h"
-#include "calculator/DisplayHistoryTableViewController.h"
-#include "calculator/KeyboardScreen.h"
-#include "calculator/KeyboardViewController.h"
-#include "calculator/Model.h"
-#include "platform/Alert.h"
-#include "platform/Device.h"
-#include "platform/Log.h"
-#include "platform/NavigationController.h"
-#include "platform/Pasteboard.h"
-#include "platform/ScreenRegistry.h"
-#include "platform/Sound.h"
+#include "calculator/history/DisplayHistoryTableViewController.h"
+#include "calculator/keyboard/CalculatorButton.h"
+#include "calculator/keyboard/KeyboardScreen.h"
+#include "calculator/keyboard/KeyboardViewController.h"
+#include "calculator/model/Model.h"
+#include "platform/machine/Alert.h"
+#include "platform/machine/Device.h"
+#include "platform/machine/Pasteboard.h"
+#include "platform/machine/Sound.h"
+#include "platform/screens/NavigationController.h"
+#include "platform/screens/ScreenRegistry.h"
+#include "platform/text/Log.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "engine/Environment.h"
-#include "engine/Expression.h"
-#include "engine/ExpressionList.h"
-#include "engine/NamedExpressionList.h"
-#include "engine/TokenElement.h"
+#include "engine/environment/Environment.h"
+#include "engine/lines/ExpressionList.h"
+#include "engine/lines/NamedExpressionList.h"
+#include "engine/lines/TokenElement.h"
+#include "engine/tree/Expression.h"
 
 #include <memory>
 #include <sstream>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/ComplexValue.h"
+#include "engine/numbers/ComplexValue.h"
 
 #include <algorithm>
 #include <cmath>

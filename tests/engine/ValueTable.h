@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/BivarFunction.h"
-#include "engine/UnivarFunction.h"
+#include "engine/tree/BivarFunction.h"
+#include "engine/tree/UnivarFunction.h"
 #include "tests/engine/SpecialNumbers.h"
 #include "tests/engine/UlpDistance.h"
 

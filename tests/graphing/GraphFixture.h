@@ -1,9 +1,9 @@
 #pragma once
 
-#include "calculator/Model.h"
-#include "graphing/GraphViewController.h"
-#include "platform/Alert.h"
-#include "platform/Timer.h"
+#include "calculator/model/Model.h"
+#include "graphing/screen/GraphViewController.h"
+#include "platform/machine/Alert.h"
+#include "platform/machine/Timer.h"
 #include "tests/engine/TokenLine.h"
 #include "tests/graphing/RecordingContext.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DrawingContext.h"
+#include "platform/screens/DrawingContext.h"
 
 #include <ostream>
 #include <vector>

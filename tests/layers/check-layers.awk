@@ -11,6 +11,7 @@ function startFile(parts, count) {
     isTest = parts[1] == "tests"
     isTool = parts[1] == "bench" || parts[1] == "fuzz"
     layer = isTest ? parts[2] : parts[1]
+    room = count > 2 && !isTest && !isTool ? parts[1] "/" parts[2] : ""
     # The start of the program is measured against a bare Qt Quick window.
     knowsQt = layer == "ui" || FILENAME ~ /^bench\/(start|screen|graph)\//
     inComment = 0
@@ -18,6 +19,8 @@ function startFile(parts, count) {
         layer = "" # helpers for the tests of every layer
     } else if (!isTool && !(layer in known)) {
         report("the folder '" layer "' is no layer of layers.txt")
+    } else if (room != "" && !(room in known)) {
+        report("the room '" room "' is not in layers.txt")
     }
 }
 
@@ -65,6 +68,20 @@ function checkInclude(line, name, quoted, first) {
         }
     } else if (first != layer && !((layer, first) in allowed)) {
         report(layer "/ must not include " name)
+    } else if (first == layer && room != "") {
+        checkRoom(name)
+    }
+}
+
+# Within a layer the rooms have an order too. What stands in the folder itself sees all of its rooms.
+function checkRoom(name, parts, other) {
+    if (split(name, parts, "/") < 3) {
+        report(room "/ must not include what stands above the rooms: " name)
+        return
+    }
+    other = parts[1] "/" parts[2]
+    if (other != room && !((room, other) in allowed)) {
+        report(room "/ must not include " name)
     }
 }
 
@@ -99,8 +116,9 @@ FILENAME == ARGV[1] {
         folder = $1
         sub(/:$/, "", folder)
         known[folder] = 1
+        outer = folder ~ /\// ? substr(folder, 1, index(folder, "/")) : ""
         for (i = 2; i <= NF; ++i) {
-            allowed[folder, $i] = 1
+            allowed[folder, outer $i] = 1
         }
     }
     next
@@ -117,7 +135,7 @@ FNR == 1 { startFile() }
 
 {
     text = code($0)
-    if (!isTest && !isTool && FILENAME != "platform/Log.cpp" && FILENAME !~ /^ui\/main\.(cpp|h)$/ &&
+    if (!isTest && !isTool && FILENAME != "platform/text/Log.cpp" && FILENAME !~ /^ui\/main\.(cpp|h)$/ &&
         text ~ /(^|[^A-Za-z0-9_.])(v?f?printf|f?puts|f?putc|putchar|perror|(std::)?w?(cout|cerr|clog)|qDebug|qInfo|qWarning|qCritical)([^A-Za-z0-9_]|$)/) {
         report("only the log in platform/ prints")
     }

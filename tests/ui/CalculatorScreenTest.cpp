@@ -2,10 +2,10 @@
 
 #include "tests/ui/RunningProgram.h"
 
-#include "calculator/KeyboardViewController.h"
-#include "calculator/Model.h"
-#include "platform/NavigationController.h"
-#include "platform/TabBarController.h"
+#include "calculator/keyboard/KeyboardViewController.h"
+#include "calculator/model/Model.h"
+#include "platform/screens/NavigationController.h"
+#include "platform/screens/TabBarController.h"
 
 #include <QAccessible>
 #include <QClipboard>

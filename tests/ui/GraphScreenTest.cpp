@@ -3,10 +3,10 @@
 #include "tests/engine/TokenLine.h"
 #include "tests/ui/RunningProgram.h"
 
-#include "calculator/Model.h"
-#include "graphing/GraphViewController.h"
-#include "platform/Pasteboard.h"
-#include "ui/GraphAdapter.h"
+#include "calculator/model/Model.h"
+#include "graphing/screen/GraphViewController.h"
+#include "platform/machine/Pasteboard.h"
+#include "ui/adapters/GraphAdapter.h"
 
 #include <QDir>
 #include <QImage>

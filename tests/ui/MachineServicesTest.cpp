@@ -1,8 +1,8 @@
-#include "calculator/Model.h"
-#include "platform/SavingRegistry.h"
+#include "calculator/model/Model.h"
+#include "platform/files/SavingRegistry.h"
 #include "tests/ui/RunningProgram.h"
-#include "ui/Artwork.h"
-#include "ui/TerminationSignals.h"
+#include "ui/machine/TerminationSignals.h"
+#include "ui/painting/Artwork.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

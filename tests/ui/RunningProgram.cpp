@@ -1,9 +1,9 @@
 #include "tests/ui/RunningProgram.h"
 
-#include "calculator/Model.h"
-#include "platform/Clock.h"
-#include "platform/SavingRegistry.h"
-#include "platform/ScreenRegistry.h"
+#include "calculator/model/Model.h"
+#include "platform/files/SavingRegistry.h"
+#include "platform/machine/Clock.h"
+#include "platform/screens/ScreenRegistry.h"
 
 #include <QAccessible>
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/platform/files/TemporaryFolder.h"
 #include "ui/Application.h"
 
 #include <QPointF>

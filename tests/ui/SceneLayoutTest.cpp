@@ -1,4 +1,4 @@
-#include "ui/SceneLayout.h"
+#include "ui/adapters/SceneLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 
 #include "tests/ui/RunningProgram.h"
 
-#include "calculator/Model.h"
-#include "platform/ScreenMetrics.h"
-#include "platform/ScreenRegistry.h"
+#include "calculator/model/Model.h"
+#include "platform/screens/ScreenMetrics.h"
+#include "platform/screens/ScreenRegistry.h"
 
 #include <QAccessible>
 #include <QClipboard>

@@ -1,0 +1,41 @@
+#include "calculator/history/DisplayHistoryCell.h"
+
+#include "calculator/history/DisplayHistoryTableViewController.h"
+#include "platform/events/NotificationCentre.h"
+
+namespace velmora {
+
+namespace {
+
+constexpr double kSideMargin = 10;
+constexpr double kRowHeightOfDesign = 38; // the row and its font are scaled alike
+constexpr double kFontSizeOfDesign = 15;
+
+} // namespace
+
+void DisplayHistoryCell::setTexts(std::string input, std::string output) {
+    m_inputLabel.text = std::move(input);
+    m_outputLabel.text = std::move(output);
+}
+
+void DisplayHistoryCell::layout(Size size) {
+    const double halfHeight = size.height / 2;
+    const double labelWidth = size.width - 2 * kSideMargin;
+    m_inputLabel.frame = {kSideMargin, 0, labelWidth, halfHeight};
+    m_outputLabel.frame = {kSideMargin, halfHeight, labelWidth, halfHeight};
+    m_outputLabel.alignment = TextAlignment::Right;
+    for (LabelRecord* label : {&m_inputLabel, &m_outputLabel}) {
+        label->fontSize = size.height * kFontSizeOfDesign / kRowHeightOfDesign;
+    }
+    const double quarter = size.width / 4;
+    const double rightWidth = quarter * static_cast<double>(m_rightButtonWidthMultiplier);
+    m_leftButton.frame = {0, 0, quarter, size.height};
+    m_rightButton.frame = {size.width - rightWidth, 0, rightWidth, size.height};
+}
+
+void DisplayHistoryCell::buttonPressed(bool left) const {
+    NotificationCentre::defaultCentre().post(kCalculatorKeyboardButtonPressedNotification, m_table,
+                                             {{"left", left}, {"row", m_row}});
+}
+
+} // namespace velmora

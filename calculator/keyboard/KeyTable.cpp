@@ -1,0 +1,87 @@
+#include "calculator/keyboard/KeyTable.h"
+
+#include "calculator/keyboard/KeyboardViewController.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velmora {
+
+namespace {
+
+using Controller = KeyboardViewController;
+
+/// An action that does not ask which key it was.
+template <void (Controller::*action)()> void run(Controller& controller, CalculatorButton& /*button*/) {
+    (controller.*action)();
+}
+template <void (Controller::*action)(CalculatorButton&)>
+void run(Controller& controller, CalculatorButton& button) {
+    (controller.*action)(button);
+}
+
+const std::array kRows{
+    KeyRow{"C", "clr", run<&Controller::clearButtonPressed>, "clear"},
+    KeyRow{"D", "del", run<&Controller::deleteAtCursor>, "delete"},
+    KeyRow{"F", "func", run<&Controller::functionButtonPressed>, "functions"},
+    KeyRow{"N", "cnst", run<&Controller::constantButtonPressed>, "constants"},
+    KeyRow{"S", "", run<&Controller::sqrtButtonPressed>, "square root"}, // its image shows the sign
+    KeyRow{"T", "trig", run<&Controller::trigButtonPressed>, "trigonometric functions"},
+    KeyRow{"U", "units", run<&Controller::unitsButtonPressed>, "unit converter"},
+    KeyRow{"e", "e E", nullptr, ""},
+    KeyRow{"←", "←", run<&Controller::leftButtonPressed>, "cursor left"},
+    KeyRow{"→", "→", run<&Controller::rightButtonPressed>, "cursor right"},
+    KeyRow{"<", "<", run<&Controller::inequalityButtonPressed>, ""},
+    KeyRow{">", ">", run<&Controller::inequalityButtonPressed>, ""},
+    KeyRow{"≥", "≥", run<&Controller::inequalityButtonPressed>, ""},
+    KeyRow{"≤", "≤", run<&Controller::inequalityButtonPressed>, ""},
+    KeyRow{"=", "=", run<&Controller::parenEqualsButtonPressed>, ""},
+};
+
+struct SpokenName {
+    std::string_view text;
+    std::string_view name;
+};
+constexpr std::array kSpokenNames{
+    SpokenName{"+", "plus"},
+    SpokenName{"-", "minus"},
+    SpokenName{"*", "times"},
+    SpokenName{"/", "divided by"},
+    SpokenName{"^", "to the power of"},
+    SpokenName{".", "decimal point"},
+    SpokenName{"(", "left parenthesis"},
+    SpokenName{")", "right parenthesis"},
+    SpokenName{"=", "equals"},
+    SpokenName{"=)", "equals"},
+    SpokenName{"e", "e"},
+    SpokenName{"E", "exponent of ten"},
+    SpokenName{"π", "pi"},
+    SpokenName{"θ", "theta"},
+    SpokenName{"i", "imaginary unit"},
+    SpokenName{"<", "less than"},
+    SpokenName{">", "greater than"},
+    SpokenName{"≥", "greater than or equal"},
+    SpokenName{"≤", "less than or equal"},
+};
+
+std::string spokenName(std::string_view text) {
+    const auto* found = std::ranges::find(kSpokenNames, text, &SpokenName::text);
+    return std::string(found == kSpokenNames.end() ? text : found->name);
+}
+
+} // namespace
+
+KeyRow keyRow(std::string_view character) {
+    const auto* found = std::ranges::find(kRows, character, &KeyRow::character);
+    return found == kRows.end() ? KeyRow{character, character, nullptr, ""} : *found;
+}
+
+std::string accessibleName(std::string_view text) {
+    const std::size_t blank = text.find(' ');
+    if (blank == std::string_view::npos) {
+        return spokenName(text);
+    }
+    return spokenName(text.substr(0, blank)) + " or " + accessibleName(text.substr(blank + 1));
+}
+
+} // namespace velmora

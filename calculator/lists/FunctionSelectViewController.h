@@ -1,0 +1,90 @@
+#pragma once
+
+#include "calculator/keyboard/FunctionListScreen.h"
+#include "calculator/lists/FunctionList.h"
+#include "platform/screens/ViewController.h"
+#include "toolkit/LabelRecord.h"
+
+#include <string>
+#include <vector>
+
+namespace velmora {
+
+/// What a row of a list does when it is chosen.
+enum class FunctionListRowKind : unsigned char {
+    AngleMode, ///< holds a choice of its own; the row itself does nothing
+    Heading,   ///< nothing
+    Greeting,  ///< nothing
+    OpensScreen,
+    NestedList,
+    Insert,
+};
+
+/// A row as it is shown.
+struct FunctionListRow {
+    FunctionListRowKind kind = FunctionListRowKind::Insert;
+    std::string title{};
+    std::string detail{};
+    TextAlignment detailAlignment = TextAlignment::Left;
+    std::string value{}; ///< of a user's constant, as it was typed
+    std::string content{};
+    double height = 44;
+
+    bool isSelectable() const {
+        return kind == FunctionListRowKind::OpensScreen || kind == FunctionListRowKind::NestedList ||
+               kind == FunctionListRowKind::Insert;
+    }
+};
+
+/// A list of functions or constants to choose from. A choice goes into the calculator line below it on the
+/// stack; where there is none, as in the Reference tab, into the line of the calculator tab.
+class FunctionSelectViewController : public ViewController, public FunctionListScreen {
+public:
+    static constexpr std::array<const char*, 2> kAngleModes{"Radians", "Degrees"};
+
+    std::string className() const override { return "FunctionSelectViewController"; }
+    std::string qmlFile() const override { return "FunctionSelectTable.qml"; }
+
+    void setFunctionListName(std::string name) override { m_functionListName = std::move(name); }
+    const std::string& functionListName() const { return m_functionListName; }
+    void setVariableIsDefined(bool defined) override { m_variableIsDefined = defined; }
+    bool variableIsDefined() const { return m_variableIsDefined; }
+    /// A list that stands inside another one, instead of a name.
+    void setFunctionList(FunctionList list) { m_functionList = std::move(list); }
+    const FunctionList& functionList() const { return m_functionList; }
+
+    const std::vector<FunctionListRow>& rows() const { return m_rows; }
+    /// Chooses a row as a tap does. Nothing for a row that cannot be chosen or does not exist.
+    void selectRow(std::size_t row);
+
+    int angleMode() const;
+    void setAngleMode(int mode);
+
+    /// Whether the list shows the user's own constants, and whether a tap edits them instead of using them.
+    bool showsUserConstants() const { return m_showsUserConstants; }
+    bool isEditing() const { return m_isEditing; }
+
+    /// Emitted when the rows have changed.
+    Signal<>& rowsChanged() { return m_rowsChanged; }
+
+    void viewDidLoad() override;
+    void viewWillAppear(bool animated) override;
+    bool shouldAutorotate(Orientation orientation) const override;
+
+private:
+    void loadFunctionList();
+    void makeRows();
+    void setEditing(bool editing);
+    void push(std::shared_ptr<ViewController> screen);
+    void insert(const std::string& text);
+
+    std::string m_functionListName;
+    bool m_variableIsDefined = false;
+    FunctionList m_functionList;
+    std::vector<FunctionListRow> m_rows;
+    bool m_showsUserConstants = false;
+    bool m_isEditing = false;
+    Signal<> m_rowsChanged;
+};
+
+} // namespace velmora

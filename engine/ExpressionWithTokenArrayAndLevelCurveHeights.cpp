@@ -1,9 +1,0 @@
-#include "engine/ExpressionWithTokenArrayAndLevelCurveHeights.h"
-
-namespace velmora {
-
-std::unique_ptr<ExpressionWithTokenArray> ExpressionWithTokenArrayAndLevelCurveHeights::copy() const {
-    return std::make_unique<ExpressionWithTokenArrayAndLevelCurveHeights>(*this);
-}
-
-} // namespace velmora

@@ -1,0 +1,124 @@
+#include "engine/tree/Expression.h"
+
+#include "engine/display/NumberDisplay.h"
+#include "engine/numbers/Complex.h"
+#include "engine/tree/DependenceSearch.h"
+#include "engine/tree/DescriptionWriter.h"
+#include "engine/tree/ErrorExpression.h"
+#include "engine/tree/ErrorTexts.h"
+#include "engine/tree/Evaluation.h"
+#include "engine/tree/RealProgram.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace velmora {
+
+namespace {
+
+constexpr std::uint32_t kMaximumSize = std::numeric_limits<std::uint32_t>::max() / 4;
+
+const ComplexValue kNoValue{std::numeric_limits<double>::quiet_NaN(),
+                            std::numeric_limits<double>::quiet_NaN()};
+
+} // namespace
+
+ComplexValue Expression::value() const {
+    const ComplexValue none = undefinedValue();
+    return evaluate(*this, {.byType = {none, none, none}, .areGiven = false}, nullptr);
+}
+
+ComplexValue Expression::valueWithVariableValue(ComplexValue z) const {
+    return evaluateAt(*this, z, nullptr);
+}
+
+ComplexValue Expression::valueWithVariableValues(ComplexValue x, ComplexValue y) const {
+    return evaluate(*this, {.byType = {x, y, undefinedValue()}, .areTwo = true}, nullptr);
+}
+
+double Expression::roundedRealValueWithVariableValue(ComplexValue z) const {
+    const ComplexValue value = valueWithVariableValue(z);
+    return isAlmostReal(value) ? value.real() : std::numeric_limits<double>::quiet_NaN();
+}
+
+void Expression::describeToProgram(RealProgramBuilder& builder) const { builder.appendOtherNode(*this); }
+
+ComplexValue Expression::complexValue(ComplexEvaluation& evaluation) const {
+    // What has no value at all answers a question about two variables with both parts undefined.
+    return evaluation.variables.areTwo ? kNoValue : undefinedValue();
+}
+
+std::string Expression::formattedValueOrErrorDescription() const { return formattedValue(value()); }
+
+std::string Expression::formattedValue(ComplexValue value) const {
+    if (isReal(value)) {
+        if (std::isnan(value.real())) {
+            const std::string* error = errorText();
+            return error != nullptr ? *error : std::string(kUndefined);
+        }
+        return displayStringWithDouble(value.real());
+    }
+    if (isNaN(value)) {
+        return displayStringWithComplex(value);
+    }
+    return Complex(value).roundedDescription();
+}
+
+std::optional<std::string> Expression::errorDescription() const {
+    const std::string* error = errorText();
+    return error != nullptr ? std::optional(*error) : std::nullopt;
+}
+
+bool Expression::refersTo(DependenceSearch&) const { return false; }
+
+bool Expression::dependsOnExpression(const Expression& other) const {
+    DependenceSearch search(other);
+    return refersTo(search);
+}
+
+bool Expression::hasRecursion() const {
+    DependenceSearch search(*this);
+    return m_holdsRecursion || refersTo(search) || search.hasFoundCircle();
+}
+
+std::string Expression::description() const {
+    DescriptionWriter writer;
+    describe(writer);
+    return std::move(writer).text();
+}
+
+void Expression::adoptTraits(const Expression* input) {
+    const bool isUsable = input != nullptr && !input->isMark();
+    if (input != nullptr) {
+        m_height = static_cast<std::uint16_t>(std::max<int>(m_height, input->m_height + 1));
+        m_size = std::min(m_size + input->m_size, kMaximumSize);
+        m_holdsRecursion = m_holdsRecursion || input->m_holdsRecursion;
+    }
+    m_isGraphable = m_isGraphable && isUsable && input->m_isGraphable;
+    m_hasError = m_hasError || !isUsable || input->m_hasError;
+    if (!isUsable) {
+        setConstant(undefinedValue()); // so no evaluation ever meets the gap
+    }
+}
+
+const std::string* Expression::findErrorText() const { return nullptr; }
+
+const std::string* Expression::errorTextOfInput(const Expression* input) {
+    return input == nullptr || input->isMark() ? &unableToParseText() : input->errorText();
+}
+
+void Expression::resetTraits() {
+    m_hasError = false;
+    m_height = 1;
+    m_size = 1;
+    m_leaf = Leaf::None;
+    m_isGraphable = true;
+    m_holdsRecursion = false;
+}
+
+void Expression::setConstant(ComplexValue value) {
+    m_constant = value;
+    m_leaf = isReal(value) ? Leaf::RealConstant : Leaf::ComplexConstant;
+}
+
+} // namespace velmora

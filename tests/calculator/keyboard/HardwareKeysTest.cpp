@@ -1,0 +1,169 @@
+#include "tests/calculator/CalculatorFixture.h"
+
+#include "platform/text/Utf8.h"
+
+namespace velmora::test {
+namespace {
+
+using HardwareKeysTest = KeyboardTest;
+
+TEST_F(HardwareKeysTest, keysEditTheLineLikeThoseOnScreen) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"1 2 + 3 Backspace 4", "12+4"},
+        {"+ 1", "ans+1"},
+        {"1 ) ,", "1),"},
+        {"2 × 3 ÷ 4 − 1", "2*3/4-1"},
+        {"2 E 3", "2E3"},
+        {"p i π i 2", "ππi2"},
+        {"e e", "ee"}, // typed letters never turn into another title
+        {"1 2 3 Home 4", "4_123"},
+        {"1 2 3 Home Delete End 4", "234"},
+        {"1 2 Left Right Right 3 Delete", "123"},
+        {"( 2 = + 1", "(2)+1"},
+        {"( 2 + 3 Enter Enter", "(2+3) = 5; "}, // both are the tall key
+        {"7 Enter 5 Escape", "7 = 7; "}};
+    for (const auto& [keys, result] : cases) {
+        SCOPED_TRACE(keys);
+        Model::resetForTests();
+        open();
+        type(keys);
+        EXPECT_EQ(shown(), result);
+    }
+    press("clr"); // counts together with the last Escape
+    type("Escape");
+    EXPECT_EQ(history(), Texts{});
+}
+
+/// What a person types on a hardware keyboard, and the tokens that the line holds then, with blanks
+/// between; letters still being typed come behind.
+struct TypedCase {
+    int entering;
+    const char* typed;
+    const char* tokens;
+    const char* pending;
+    const char* notice; // a part of it, or empty
+};
+
+TEST_F(HardwareKeysTest, lettersBecomeTheNamesTheySpell) {
+    Model& model = Model::m();
+    model.constants().setNameAtIndex(1, "mass");
+    model.constants().setExpressionAtIndex(1, ExpressionWithTokenArray(tokens("5")), false);
+    ExpressionList* const targets[] = {
+        nullptr, &model.equations(),       &model.parametricY(), &model.polarR(),
+        nullptr, &model.impliedFunctions()};
+    const TypedCase cases[] = {
+        {0, "sin", "", "sin", ""},
+        {0, "2asin(3", "2 asin( 3", "", ""},
+        {0, "SQRT(2)+Im(i)", "sqrt( 2 ) + Im( i )", "", ""},
+        {0, "xsin(", "sin(", "", "begins with “x”"}, // no variable here; the rest is still typed
+        {1, "xsin(x", "x sin( x", "", ""},
+        {1, "xx^x", "x x ^ x", "", ""},
+        {1, "y1(x", "y1( x", "", ""},
+        {1, "ty<≥", "", "t", "begins with “ty”"}, // what waits is not lost
+        {2, "t+tanh(t", "t + tanh(", "t", ""},
+        {3, "θcos(θ", "θ cos( θ", "", ""},
+        {4, "xy<", "x y", "", ""},
+        {5, "x(y+e2", "x ( y + e 2", "", ""}, // what could have begun "y1(" and "erf("
+        {0, "pi/piei", "π / π", "ei", ""},
+        {0, "2mass", "2 @k2", "", ""},
+        {0, "2E-3", "2 E - 3", "", ""},
+        {0, "ISADensityKgM3(1", "ISADensityKgM3( 1", "", ""},
+        {0, "lo+g(7", "log( 7", "", "“lo” is only the start of log(, logbase("},
+        {0, "2qé", "2", "", "begins with “é”"},
+        {0, "sinq(", "sin(", "", "begins with “sinq”"}};
+    for (const TypedCase& c : cases) {
+        SCOPED_TRACE(c.typed);
+        screen.notice.clear();
+        open(c.entering, targets[c.entering]);
+        for (const std::string& character : splitCodePoints(c.typed)) {
+            keyboard->hardwareKey(character);
+        }
+        std::string line;
+        for (const TokenElement& element : keyboard->displayModel()->tokenArray()) {
+            line += (line.empty() ? "" : " ") + (element.token() ? element.token()->description() : "ans");
+        }
+        EXPECT_EQ(line, c.tokens);
+        EXPECT_EQ(keyboard->typedName(), c.pending);
+        EXPECT_TRUE(screen.notice.find(c.notice) != std::string::npos &&
+                    screen.notice.empty() == std::string(c.notice).empty())
+            << screen.notice;
+    }
+}
+
+TEST_F(HardwareKeysTest, lettersStandAtTheCursorAndAreEditedLikeKeys) {
+    open();
+    type("4 Enter 1 2 Left s");
+    EXPECT_EQ(entry(), "1s_2");
+    press("7"); // only the start of a name: refused, and nothing is lost
+    EXPECT_EQ(entry(), "1s_2");
+    type("i Backspace");
+    EXPECT_EQ(entry(), "1s_2");
+    type("i n");
+    press("(");
+    EXPECT_EQ(entry(), "1sin(_2");
+    type("End e");
+    press("+");
+    EXPECT_EQ(entry(), "1sin(2e+");
+    type("a n s Escape a n s * i Enter");
+    EXPECT_EQ(history(), (Texts{"4 = 4", "ans*i = 4i"}));
+    type("c o");
+    press("del clr");
+    EXPECT_EQ(entry(), "");
+    type("e"); // may begin "erf(", until a row is tapped
+    keyboard->displayTableViewController()->historyCell(1, 320).buttonPressed(true);
+    EXPECT_EQ(entry(), "e4");
+}
+
+TEST_F(HardwareKeysTest, tapMovesTheCursorToTheNearestGap) {
+    // Characters are 10.2 points wide; the line ends at x = 310.
+    open();
+    keyboard->functionSelected("sin(");
+    press("1 2");
+    const std::pair<double, const char*> cases[] = {
+        {309, "sin(12"}, {301, "sin(1_2"}, {280, "sin(_12"}, {200, "_sin(12"}, {262, "_sin(12"}};
+    for (const auto& [x, line] : cases) {
+        keyboard->cursorTappedAt(99);
+        EXPECT_EQ(entry(), "sin(12");
+        keyboard->entryLineTapped({x, 215});
+        EXPECT_EQ(entry(), line) << x;
+    }
+    keyboard->cursorTappedAt(-3);
+    EXPECT_EQ(entry(), "_sin(12");
+
+    // 290 points from x = 15 hold 26 characters of 10.8; "y1(x)=" takes 6 of the first line.
+    open(1, &Model::m().equations());
+    keyboard->displayModel()->setTokenArray(TokenArray(30, Token("1")));
+    keyboard->updateDisplay();
+    // Two lines of 21.6 points, centred in 90: they begin at 23.4 and 45.
+    keyboard->entryLineTapped({15 + 8 * 10.8, 30});
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 2);
+    keyboard->cursorTappedAt(99);
+    keyboard->entryLineTapped({15 + 3 * 10.8 + 1, 60});
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 23);
+    keyboard->cursorTappedAt(99);
+    keyboard->entryLineTapped({15, 60}); // where the line breaks, from its second line
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 20);
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(),
+              "y1(x)=" + std::string(20, '1') + "\n_1111111111");
+
+    // A line breaks behind a blank where it can: the heights begin a line of their own.
+    open(5, &Model::m().impliedFunctions());
+    keyboard->displayModel()->setTokenArray(TokenArray(25, Token("y")));
+    keyboard->updateDisplay();
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(), std::string(25, 'y') + "= \n0");
+    keyboard->entryLineTapped({200, 60});
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 25);
+
+    // The line of inequalities is as high as one line of text, which is that of the cursor.
+    open(4);
+    keyboard->displayModel()->setTokenArray(TokenArray(60, Token("y")));
+    keyboard->updateDisplay();
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(), std::string(60 - 2 * 28, 'y'));
+    keyboard->cursorTappedAt(30);
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(), "yy_" + std::string(25, 'y'));
+    keyboard->entryLineTapped({15 + 10.2 * 5, 10});
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 32);
+}
+
+} // namespace
+} // namespace velmora::test

@@ -1,0 +1,57 @@
+#include "ui/adapters/ScreenAdapters.h"
+
+#include "calculator/keyboard/KeyboardViewController.h"
+#include "calculator/lists/ConstantEditViewController.h"
+#include "calculator/lists/FunctionSelectViewController.h"
+#include "calculator/pages/PageViewController.h"
+#include "graphing/equations/GenericEquationsViewController.h"
+#include "graphing/screen/GraphViewController.h"
+#include "platform/text/Log.h"
+#include "toolkit/OrvPickTableViewController.h"
+#include "toolkit/OrvSettingsTableViewController.h"
+#include "ui/adapters/ConstantEditAdapter.h"
+#include "ui/adapters/EquationsAdapter.h"
+#include "ui/adapters/FunctionSelectAdapter.h"
+#include "ui/adapters/GraphAdapter.h"
+#include "ui/adapters/KeyboardScreenAdapter.h"
+#include "ui/adapters/PageAdapter.h"
+#include "ui/adapters/PickTableAdapter.h"
+#include "ui/adapters/SettingsTableAdapter.h"
+
+namespace velmora {
+
+namespace {
+
+using ControllerPointer = std::shared_ptr<ViewController>;
+
+template <class Controller, class Adapter>
+std::unique_ptr<QObject> make(const ControllerPointer& controller, SceneAdapter& scene) {
+    auto own = std::dynamic_pointer_cast<Controller>(controller);
+    return own ? std::make_unique<Adapter>(std::move(own), scene) : nullptr;
+}
+
+/// One line a kind of screen.
+constexpr std::unique_ptr<QObject> (*kMakers[])(const ControllerPointer&, SceneAdapter&) = {
+    make<KeyboardViewController, KeyboardScreenAdapter>,
+    make<FunctionSelectViewController, FunctionSelectAdapter>,
+    make<ConstantEditViewController, ConstantEditAdapter>,
+    make<PageViewController, PageAdapter>,
+    make<GenericEquationsViewController, EquationsAdapter>,
+    make<GraphViewController, GraphAdapter>,
+    make<OrvSettingsTableViewController, SettingsTableAdapter>,
+    make<OrvPickTableViewController, PickTableAdapter>,
+};
+
+} // namespace
+
+std::unique_ptr<QObject> newScreenAdapter(const ControllerPointer& controller, SceneAdapter& scene) {
+    for (const auto& maker : kMakers) {
+        if (auto adapter = maker(controller, scene)) {
+            return adapter;
+        }
+    }
+    log("nothing draws the screen " + controller->className());
+    return nullptr;
+}
+
+} // namespace velmora
