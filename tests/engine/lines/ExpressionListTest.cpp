@@ -1,6 +1,7 @@
 #include "engine/lines/ExpressionList.h"
 
 #include "engine/tree/TargetAndIndex.h"
+#include "platform/files/PropertyList.h"
 #include "tests/engine/TokenLine.h"
 
 #include <gtest/gtest.h>
