@@ -22,7 +22,7 @@ PropertyList& PropertyList::operator=(const PropertyList& other) = default;
 PropertyList& PropertyList::operator=(PropertyList&& other) noexcept = default;
 PropertyList::~PropertyList() = default;
 
-bool PropertyList::operator==(const PropertyList& other) const = default;
+bool PropertyList::operator==(const PropertyList& other) const { return m_value == other.m_value; }
 
 std::optional<bool> PropertyList::asBool() const {
     const bool* value = std::get_if<bool>(&m_value);

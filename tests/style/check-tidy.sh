@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# check-tidy.sh ROOT BUILD [FILE...]: runs clang-tidy over the program's own sources (or those named),
-# as they were compiled in BUILD with Ninja.
+# check-tidy.sh ROOT BUILD [--all | FILE...]: runs clang-tidy over the program's own sources, as they were
+# compiled in BUILD with Ninja: those that the changes in the working tree touch, or all, or those named.
+# Where CI is set, or where git knows nothing of the tree, it looks at all of them.
 #
 # A source that was clean stays clean until it, a header of ours that it includes, or the configuration
 # changes; so a second run looks only at what was touched.
@@ -38,16 +39,32 @@ ninja -C "$build" -t deps | awk -v root="$root/" -v build="$build/" '
     }
     END { flush() }' | sort -u >"$work/sources"
 
-if [[ $# -gt 0 ]]; then
-    printf '%s\n' "$@" >"$work/wanted"
-    awk 'NR == FNR { wanted[$1]; next } $1 in wanted' "$work/wanted" "$work/sources" >"$work/chosen"
-    mv "$work/chosen" "$work/sources"
-fi
-total=$(wc -l <"$work/sources")
-if [[ $total -eq 0 ]]; then
+if [[ ! -s $work/sources ]]; then
     echo "Nothing in $build was compiled from these folders."
     exit 1
 fi
+
+if [[ $# -eq 0 && -z ${CI:-} ]] && git rev-parse --git-dir >/dev/null 2>&1; then
+    # A changed header concerns every source that reads it.
+    { git diff --name-only HEAD && git ls-files --others --exclude-standard; } >"$work/wanted"
+    awk 'FILENAME == ARGV[1] { wanted[$1]; next }
+         { for (i = 1; i <= NF; ++i) if ($i in wanted) { print; next } }' \
+        "$work/wanted" "$work/sources" >"$work/chosen"
+    mv "$work/chosen" "$work/sources"
+elif [[ $# -gt 0 && $1 != --all ]]; then
+    printf '%s\n' "$@" >"$work/wanted"
+    awk 'NR == FNR { wanted[$1]; next } $1 in wanted' "$work/wanted" "$work/sources" >"$work/chosen"
+    mv "$work/chosen" "$work/sources"
+    if [[ ! -s $work/sources ]]; then
+        echo "None of these was compiled in $build: $*"
+        exit 1
+    fi
+fi
+total=$(wc -l <"$work/sources")
+
+# clang cannot read what the compiler precompiled. Without it every source must include what it uses.
+sed -E 's/ -Winvalid-pch//; s/ -include [^ ]*cmake_pch\.hxx//g' "$build/compile_commands.json" \
+    >"$work/compile_commands.json"
 
 version=$(clang-tidy --version)
 while read -r -a files; do
@@ -61,14 +78,14 @@ check() {
     local output
     # The commands are the compiler's, which knows warnings that clang does not.
     # The standard output holds the findings, the standard error only counts what was suppressed.
-    if output=$(clang-tidy -p "$3" --quiet --extra-arg=-Wno-unknown-warning-option "$1" 2>"$4/errors.$$"); then
+    if output=$(clang-tidy -p "$3" --quiet --extra-arg=-Wno-unknown-warning-option "$1" 2>"$3/errors.$$"); then
         touch "$2"
     else
         printf '%s\n' "$output"
-        grep -v -e '^[0-9]* warnings\? generated' -e '^Suppressed' "$4/errors.$$" || true
+        grep -v -e '^[0-9]* warnings\? generated' -e '^Suppressed' "$3/errors.$$" || true
         return 1
     fi
 }
 export -f check
 # shellcheck disable=SC2016
-xargs -r -L 1 -P "$(nproc)" bash -c 'check "$2" "$3" "$0" "$1"' "$build" "$work" <"$work/stale"
+xargs -r -L 1 -P "$(nproc)" bash -c 'check "$1" "$2" "$0"' "$work" <"$work/stale"
