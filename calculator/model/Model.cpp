@@ -1,6 +1,7 @@
 #include "calculator/model/Model.h"
 
 #include "calculator/model/Assertion.h"
+#include "calculator/model/GraphTypeTable.h"
 #include "calculator/model/KeyboardGeometry.h"
 #include "calculator/model/ModelArchive.h"
 #include "calculator/model/ModelProperties.h"
@@ -25,7 +26,6 @@ constexpr int kConstantCount = 50;
 constexpr int kSlotCount = 4;
 constexpr int kActivationsBetweenTips = 20;
 constexpr double kSmallestGraphWidth = 1e-9;
-constexpr int kParametricGraph = 2;
 constexpr std::size_t kEquationsTab = 1;
 
 void nameList(ExpressionList& list, const char* functionName, const char* variableName) {
@@ -167,9 +167,8 @@ void Model::setGraphType(int type) {
 
 std::shared_ptr<ViewController> Model::currentEquationsViewController() {
     if (!m_equationsEditor || m_editorGraphType != m_graphType) {
-        const bool parametric = m_graphType == kParametricGraph;
-        auto editor = ScreenRegistry::shared().make(parametric ? "ParametricEquationsViewController"
-                                                               : "EquationsViewController");
+        const GraphTypeRow* row = graphTypeRow(m_graphType);
+        auto editor = row ? ScreenRegistry::shared().make(row->equationsScreen) : nullptr;
         if (!editor) {
             return nullptr;
         }
@@ -180,7 +179,7 @@ std::shared_ptr<ViewController> Model::currentEquationsViewController() {
 }
 
 bool Model::explainFailureToGraph() const {
-    if (m_graphType != 0) {
+    if (m_graphType != static_cast<int>(GraphType::Function)) {
         return false;
     }
     for (int i = 0; i < m_equations.nExpressions(); ++i) {

@@ -1,5 +1,6 @@
 #include "calculator/settings/RangeViewController.h"
 
+#include "calculator/model/GraphTypeTable.h"
 #include "calculator/model/Model.h"
 #include "calculator/settings/SettingsRows.h"
 #include "platform/screens/NavigationController.h"
@@ -8,19 +9,10 @@ namespace velmora {
 
 namespace {
 
-constexpr int kPolarGraph = 1;
-constexpr int kParametricGraph = 2;
-
 /// The section of the settings that holds the range; one that does not exist for functions.
 int rangeSection() {
-    switch (Model::m().graphType()) {
-    case kPolarGraph:
-        return kPolarRangeSection;
-    case kParametricGraph:
-        return kParametricRangeSection;
-    default:
-        return kSettingsSectionCount;
-    }
+    const GraphTypeRow* type = graphTypeRow(Model::m().graphType());
+    return type && type->hasRange() ? settingsSectionOfKey(type->rangeStartKey) : kSettingsSectionCount;
 }
 
 } // namespace

@@ -1,10 +1,12 @@
 #include "calculator/settings/SettingsRows.h"
 
+#include "calculator/model/GraphTypeTable.h"
 #include "calculator/model/Model.h"
 #include "toolkit/OrvChoiceSettingsCell.h"
 #include "toolkit/OrvNumberSettingsCell.h"
 #include "toolkit/OrvTextSettingsCell.h"
 
+#include <algorithm>
 #include <array>
 
 namespace velmora {
@@ -56,7 +58,7 @@ const std::vector<SettingsRow>& rows() {
         {1, ListPick, "Portrait Layout", "whichKeyboard", {"standard", "alternate"}},
         {1, ListPick, "Portrait Display", "displayMode", {"Small Keys", "Large Keys"}},
         {1, Segmented, "Fonts", "largeFontsOnPhone", {"Normal", "Large"}},
-        {2, ListPick, "Type of Graph", "graphType", {"function", "polar", "parametric"}},
+        {2, ListPick, "Type of Graph", "graphType", graphTypeChoices()},
         {2, Double, "Min X", "xMinForGraph"},
         {2, Double, "Max X", "xMaxForGraph"},
         {2, Double, "Min Y", "yMinForGraph"},
@@ -129,6 +131,11 @@ const SettingsRow* find(int section, int number) {
 }
 
 } // namespace
+
+int settingsSectionOfKey(std::string_view key) {
+    const auto row = std::ranges::find(rows(), key, &SettingsRow::key);
+    return row == rows().end() ? kSettingsSectionCount : row->section;
+}
 
 int settingsRowCount(int section) {
     int count = 0;

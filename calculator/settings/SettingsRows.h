@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace velmora {
 
@@ -11,6 +12,9 @@ namespace velmora {
 inline constexpr int kSettingsSectionCount = 8;
 inline constexpr int kPolarRangeSection = 3;
 inline constexpr int kParametricRangeSection = 4;
+
+/// The section with the row that edits a property; kSettingsSectionCount when none does.
+int settingsSectionOfKey(std::string_view key);
 
 int settingsRowCount(int section);
 /// "Missing Title" for a section that does not exist.

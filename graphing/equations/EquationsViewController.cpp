@@ -1,26 +1,25 @@
 #include "graphing/equations/EquationsViewController.h"
 
 #include "calculator/model/Entering.h"
+#include "calculator/model/GraphTypeTable.h"
 #include "calculator/model/Model.h"
 #include "calculator/model/SlotColors.h"
 
 namespace velmora {
 
-namespace {
-
-constexpr int kPolarGraph = 1;
-
-} // namespace
-
 EquationsViewController::EquationsViewController() {
-    const int graphType = Model::m().graphType();
-    const bool polar = graphType == kPolarGraph;
-    setTitle(polar ? "Polar Equations" : "Equations");
     setTabTitle("Equations");
-    m_target = polar ? &Model::m().polarR() : &Model::m().equations();
-    m_enteringWhat = graphType <= kPolarGraph ? kEnteringFunction : kEnteringCalculatorLine;
-    if (polar) {
-        createRangeButton();
+    if (const GraphTypeRow* type = graphTypeRow(Model::m().graphType())) {
+        setTitle(type->equationsTitle);
+        m_target = &(Model::m().*type->lists.front())();
+        m_enteringWhat = type->entering;
+        if (type->hasRange()) {
+            createRangeButton();
+        }
+    } else {
+        setTitle("Equations");
+        m_target = &Model::m().equations();
+        m_enteringWhat = kEnteringCalculatorLine;
     }
 }
 

@@ -1,6 +1,7 @@
 #include "graphing/equations/GenericEquationsViewController.h"
 
 #include "calculator/keyboard/KeyboardViewController.h"
+#include "calculator/model/GraphTypeTable.h"
 #include "calculator/model/Model.h"
 #include "engine/lines/ExpressionList.h"
 #include "platform/screens/NavigationController.h"
@@ -63,8 +64,7 @@ void GenericEquationsViewController::createSwitchButton() {
 
 void GenericEquationsViewController::switchButtonPressed() {
     push(std::make_shared<OrvPickTableViewController>(std::make_shared<OrvListPickSettingsCell>(
-        "Graph type", OrvBoundSettingsCell::Binding{"Model", "graphType"},
-        std::vector<std::string>{"function", "polar", "parametric"})));
+        "Graph type", OrvBoundSettingsCell::Binding{"Model", "graphType"}, graphTypeChoices())));
 }
 
 void GenericEquationsViewController::viewWillAppear(bool /*animated*/) {

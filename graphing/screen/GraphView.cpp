@@ -1,14 +1,11 @@
 #include "graphing/screen/GraphView.h"
 
 #include "calculator/model/Model.h"
-#include "calculator/model/SlotColors.h"
-#include "engine/lines/ExpressionList.h"
-#include "engine/tree/Expression.h"
-#include "graphing/plot/ParameterCurves.h"
+#include "graphing/frame/GraphFramePainter.h"
+#include "graphing/frame/GraphLabels.h"
 #include "platform/machine/Clock.h"
 #include "platform/machine/Timer.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -18,16 +15,10 @@ namespace {
 constexpr double kSliceSeconds = 0.008; // of halving between two events
 constexpr double kRestSeconds = 0.2;    // without a change, until halving goes on
 constexpr double kWideView = 500;       // points, beyond which lines are wider and numbers larger
-constexpr int kDegrees = 1;
-constexpr int kFarApartGridLines = 1;
-
-void drawLine(DrawingContext& context, Point from, Point to) {
-    context.moveTo(from);
-    context.lineTo(to);
-    context.strokePath();
-}
 
 } // namespace
+
+GraphView::GraphView() : m_noGraphLabel(noGraphLabelRecord(false)) {}
 
 void GraphView::setSize(Size size) {
     if (size != m_size) {
@@ -73,25 +64,19 @@ void GraphView::matchXAndYScales() {
     readBoundsFromModel();
 }
 
-void GraphView::move(float dx, float dy) {
-    if (m_viewport.move(dx, dy)) {
+void GraphView::changed(bool hasChanged) {
+    if (hasChanged) {
         storeBoundsInModel();
         setNeedsDisplay();
     }
 }
 
-void GraphView::zoom(double factorX, double factorY) {
-    if (m_viewport.zoom(factorX, factorY)) {
-        storeBoundsInModel();
-        setNeedsDisplay();
-    }
-}
+void GraphView::move(float dx, float dy) { changed(m_viewport.move(dx, dy)); }
+
+void GraphView::zoom(double factorX, double factorY) { changed(m_viewport.zoom(factorX, factorY)); }
 
 void GraphView::zoomAbout(Point point, double factorX, double factorY) {
-    if (m_viewport.zoomAbout(point, factorX, factorY)) {
-        storeBoundsInModel();
-        setNeedsDisplay();
-    }
+    changed(m_viewport.zoomAbout(point, factorX, factorY));
 }
 
 void GraphView::resetBounds() {
@@ -119,9 +104,9 @@ void GraphView::setScreenXForTracing(float x) {
     setNeedsDisplay();
 }
 
-void GraphView::traceGraphWithSortedTouches(const Touches& touches) {
-    if (!touches.empty()) {
-        setScreenXForTracing(static_cast<float>(touches.front().location.x));
+void GraphView::traceGraphWithSortedTouches(const GraphFingers& fingers) {
+    if (!fingers.empty()) {
+        setScreenXForTracing(fingers.front().place.x);
     }
 }
 
@@ -145,21 +130,15 @@ void GraphView::stepTrace(int direction) {
     }
 }
 
-bool GraphView::graphBackgroundIsBlack() const { return Model::m().graphBackgroundIsBlack(); }
-
-Color GraphView::backgroundColor() const { return Color::white(graphBackgroundIsBlack() ? 0 : 1); }
-
-Color GraphView::axisColor() const { return Color::white(graphBackgroundIsBlack() ? 1 : 0); }
-
-Color GraphView::gridlineColor() const {
-    constexpr double alphaOnWhite = 0.2;
-    constexpr double alphaOnBlack = 0.3;
-    return graphBackgroundIsBlack() ? Color::white(1, alphaOnBlack) : Color::white(0, alphaOnWhite);
-}
-
 bool GraphView::isWide() const { return m_size.width > kWideView; }
 
-double GraphView::axisWidth() const { return isWide() ? 2 : 1; }
+GraphLook GraphView::look() const { return {Model::m().graphBackgroundIsBlack(), isWide()}; }
+
+double GraphView::graphLabelFontSize() const { return GraphLabelLayout::inView(m_size.width).fontSize; }
+
+double GraphView::graphLabelWidth() const { return GraphLabelLayout::inView(m_size.width).width; }
+
+double GraphView::graphLabelHeight() const { return GraphLabelLayout::inView(m_size.width).height; }
 
 void GraphView::setNeedsDisplay() {
     m_frameIsCurrent = false;
@@ -173,108 +152,24 @@ void GraphView::drawRect(DrawingContext& context) {
         m_frameIsCurrent = true;
         resumeRefinement();
     }
-    if (!m_viewport.isUsable()) {
-        return;
-    }
-    drawAxes(context);
-    context.setLineWidth(axisWidth());
-    for (const SlotCurve& curve : m_curves) {
-        context.setStrokeColor(slotColor(curve.slot));
-        context.setFillColor(slotColor(curve.slot));
-        curve.curve().draw(context);
-    }
-    if (isTracing()) {
-        drawVerticalTraceLine(context);
-        drawEllipses(context);
-    }
+    paintFrame(m_frame, context);
 }
 
 void GraphView::computeFrame() {
     if (Model::m().sameScaleXAndY()) {
         matchXAndYScales();
     }
-    m_metadata = {};
-    m_axes = {};
-    m_curves.clear();
-    m_hashMarkLabels.clear();
-    if (m_viewport.isUsable()) {
-        computeAxes();
-        computeCurves();
-    }
-    labelGraph();
+    m_frame = GraphFrame(m_viewport, GraphSettings::ofModel(isWide()), m_traceMode, m_screenXForTracing);
+    m_frame.refine(monotonicSeconds() + kSliceSeconds);
+    m_screenXForTracing = m_frame.trace().screenX;
+    m_hashMarkLabels = m_frame.verticalMarks().labels;
+    const auto& across = m_frame.horizontalMarks().labels;
+    m_hashMarkLabels.insert(m_hashMarkLabels.end(), across.begin(), across.end());
+    m_graphLabels = graphLabels(m_frame, GraphLabelLayout::inView(m_size.width));
+    m_noGraphLabel = noGraphLabelRecord(Model::m().explainFailureToGraph());
 }
 
-void GraphView::computeAxes() {
-    const Model& model = Model::m();
-    const bool oneLinePerMark = model.graphGridLineType() == kFarApartGridLines;
-    const auto upward = HashMarkSpacing::chosenFor(m_viewport.yMin, m_viewport.yMax, oneLinePerMark);
-    m_axes.vertical = HashMarks::along(true, m_viewport, upward, isWide(), hashmarkColor());
-    const auto across = model.sameScaleXAndY() && upward.hashmarkSpacing > 0
-                            ? upward
-                            : HashMarkSpacing::chosenFor(m_viewport.xMin, m_viewport.xMax, oneLinePerMark);
-    m_axes.horizontal = HashMarks::along(false, m_viewport, across, isWide(), hashmarkColor());
-    for (const HashMarks* marks : {&m_axes.vertical, &m_axes.horizontal}) {
-        m_hashMarkLabels.insert(m_hashMarkLabels.end(), marks->labels.begin(), marks->labels.end());
-    }
-}
-
-void GraphView::computeCurves() {
-    Model& model = Model::m();
-    const auto slots = [](const ExpressionList& list) {
-        return std::min<std::size_t>(static_cast<std::size_t>(list.nExpressions()), kSlots);
-    };
-    switch (model.graphType()) {
-    case 0:
-        for (std::size_t slot = 0; slot < slots(model.equations()); ++slot) {
-            auto plotter =
-                std::make_unique<CurvePlotter>(model.equations().expression(static_cast<int>(slot)),
-                                               m_viewport, model.roundSmallPartsOfComplexNumbers());
-            m_metadata.at(slot) = plotter->metaData();
-            m_curves.push_back({slot, std::move(plotter), {}});
-        }
-        break;
-    case 1:
-        for (std::size_t slot = 0; slot < slots(model.polarR()); ++slot) {
-            if (const auto radius = model.polarR().expression(static_cast<int>(slot))) {
-                m_curves.push_back(
-                    {slot, nullptr,
-                     graphPolar(*radius, {model.thetaStartForPolarGraph(), model.thetaEndForPolarGraph()},
-                                model.angleMode() == kDegrees, m_viewport, m_metadata.at(slot))});
-            }
-        }
-        break;
-    case 2:
-        for (std::size_t slot = 0; slot < slots(model.parametricX()); ++slot) {
-            const auto x = model.parametricX().expression(static_cast<int>(slot));
-            const auto y = model.parametricY().expression(static_cast<int>(slot));
-            if (x && y) {
-                m_curves.push_back(
-                    {slot, nullptr,
-                     graphParametrically(*x, *y,
-                                         {model.tStartForParametricGraph(), model.tEndForParametricGraph()},
-                                         m_viewport, m_metadata.at(slot))});
-            }
-        }
-        break;
-    default:
-        break;
-    }
-    refineSlice();
-}
-
-void GraphView::refineSlice() {
-    const double deadline = monotonicSeconds() + kSliceSeconds;
-    for (const SlotCurve& curve : m_curves) {
-        if (curve.plotter && curve.plotter->refine(deadline)) {
-            return; // out of time
-        }
-    }
-}
-
-bool GraphView::isRefined() const {
-    return std::ranges::all_of(
-        m_curves, [](const SlotCurve& curve) { return !curve.plotter || curve.plotter->isRefined(); });
-}
+bool GraphView::isRefined() const { return m_frame.isRefined(); }
 
 void GraphView::holdRefinement() { m_refinementTimer.cancel(); }
 
@@ -284,92 +179,13 @@ void GraphView::resumeRefinement() {
     }
     m_refinementTimer = startTimer(kRestSeconds, TimerKind::OneShot, [this] {
         m_refinementTimer = startTimer(0, TimerKind::Repeating, [this] {
-            refineSlice();
+            m_frame.refine(monotonicSeconds() + kSliceSeconds);
             if (isRefined()) {
                 m_refinementTimer.cancel();
             }
             m_needsDisplay.emit();
         });
     });
-}
-
-void GraphView::drawAxes(DrawingContext& context) const {
-    context.setAlignsToPixels(true);
-    context.setStrokeColor(axisColor());
-    context.setLineWidth(axisWidth());
-    if (m_viewport.xMin < 0 && m_viewport.xMax > 0) {
-        drawAxis(context, true);
-    }
-    if (m_viewport.yMin < 0 && m_viewport.yMax > 0) {
-        drawAxis(context, false);
-    }
-    drawHashMarks(context, true, m_axes.vertical);
-    drawHashMarks(context, false, m_axes.horizontal);
-    context.setAlignsToPixels(false);
-}
-
-void GraphView::drawAxis(DrawingContext& context, bool vertical) const {
-    const auto width = static_cast<float>(m_viewport.width);
-    const auto height = static_cast<float>(m_viewport.height);
-    if (vertical) {
-        const auto range = static_cast<float>(m_viewport.xMax - m_viewport.xMin);
-        const float x = -static_cast<float>(m_viewport.xMin) * width / range;
-        drawLine(context, {x, 0}, {x, height});
-    } else {
-        const auto range = static_cast<float>(m_viewport.yMax - m_viewport.yMin);
-        const float y = height + static_cast<float>(m_viewport.yMin) * height / range;
-        drawLine(context, {0, y}, {width, y});
-    }
-}
-
-void GraphView::drawHashMarks(DrawingContext& context, bool vertical, const HashMarks& marks) const {
-    constexpr double gridLineWidth = 1;
-    constexpr double halfTick = 10;
-    // A line across the axis, from one distance to the other.
-    const auto across = [&](double along, double from, double to) {
-        if (vertical) {
-            drawLine(context, {from, along}, {to, along});
-        } else {
-            drawLine(context, {along, from}, {along, to});
-        }
-    };
-    context.setStrokeColor(gridlineColor());
-    context.setLineWidth(gridLineWidth);
-    for (const float along : marks.gridLines) {
-        across(along, 0, vertical ? m_viewport.width : m_viewport.height);
-    }
-    context.setStrokeColor(hashmarkColor());
-    context.setLineWidth(axisWidth());
-    for (const float along : marks.ticks) {
-        across(along, marks.axisPosition - halfTick, marks.axisPosition + halfTick);
-    }
-}
-
-void GraphView::drawVerticalTraceLine(DrawingContext& context) const {
-    context.setStrokeColor(gridlineColor());
-    drawLine(context, {m_screenXForTracing, 0},
-             {m_screenXForTracing, static_cast<double>(m_viewport.height)});
-}
-
-void GraphView::drawEllipses(DrawingContext& context) const {
-    constexpr double radius = 2;
-    const ExpressionList& equations = Model::m().equations();
-    for (std::size_t slot = 0; slot < kSlots; ++slot) {
-        const auto equation = equations.expression(static_cast<int>(slot));
-        if (!equation || !equation->isGraphable()) {
-            continue;
-        }
-        const double y = equation->roundedRealValueWithVariableValue(m_tracedX);
-        if (!(y >= m_viewport.yMin && y <= m_viewport.yMax)) {
-            continue;
-        }
-        const Rect circle{m_screenXForTracing - radius, m_viewport.screenCoordWithCoord(y, true) - radius,
-                          2 * radius, 2 * radius};
-        context.setStrokeColor(slotColor(slot));
-        context.setFillColor(slotColor(slot));
-        context.fillEllipse(circle);
-        context.strokeEllipse(circle);
-    }
 }
 
 } // namespace velmora

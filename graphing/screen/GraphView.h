@@ -1,34 +1,24 @@
 #pragma once
 
-#include "graphing/axes/HashMarks.h"
-#include "graphing/plot/CurvePlotter.h"
-#include "graphing/plot/GraphMetaData.h"
-#include "graphing/plot/PlottedCurve.h"
-#include "graphing/plot/Viewport.h"
-#include "graphing/trace/GraphTrace.h"
+#include "graphing/frame/GraphFrame.h"
+#include "graphing/screen/GraphGesture.h"
 #include "platform/events/Signal.h"
 #include "platform/screens/Color.h"
 #include "platform/screens/DrawingContext.h"
-#include "platform/screens/Touch.h"
 #include "toolkit/LabelRecord.h"
 
-#include <array>
-#include <memory>
 #include <vector>
 
 namespace velmora {
 
-class ExpressionList;
-
 /// The plotting area: axes, grid, the curves of up to four equations, their labels and the trace line.
 ///
-/// A change asks for a redraw; drawRect then works out the new frame and issues its commands. Where curves
-/// are steep, halving between samples gets a few milliseconds of that frame and goes on while the view is at
-/// rest, in slices between events, each of which asks for a redraw of the frame so far.
+/// It holds what is seen of the plane and what is traced. A change asks for a redraw; drawRect then works out
+/// the new GraphFrame and has it painted. Where curves are steep, halving between samples gets a few
+/// milliseconds of that frame and goes on while the view is at rest, in slices between events, each of which
+/// asks for a redraw of the frame so far.
 class GraphView {
 public:
-    static constexpr std::size_t kSlots = 4;
-
     GraphView();
 
     /// The extent in points. Whole points are used.
@@ -66,7 +56,7 @@ public:
     float screenXForTracing() const { return m_screenXForTracing; }
     void setScreenXForTracing(float x);
     /// Puts the trace line under the first finger. Nothing without one.
-    void traceGraphWithSortedTouches(const Touches& touches);
+    void traceGraphWithSortedTouches(const GraphFingers& fingers);
     /// Moves the trace line to the right (1) or left (-1): by a point, or while something is looked for to
     /// the next result on screen. Without one the line stays.
     void stepTrace(int direction);
@@ -88,12 +78,14 @@ public:
     void resumeRefinement();
     bool isRefined() const;
 
-    bool graphBackgroundIsBlack() const;
-    Color backgroundColor() const;
-    Color axisColor() const;
-    Color hashmarkColor() const { return axisColor(); }
-    Color gridlineColor() const;
-    double axisWidth() const;
+    /// Of the model's settings, at this moment.
+    GraphLook look() const;
+    bool graphBackgroundIsBlack() const { return look().isBlack; }
+    Color backgroundColor() const { return look().backgroundColor(); }
+    Color axisColor() const { return look().axisColor(); }
+    Color hashmarkColor() const { return look().hashmarkColor(); }
+    Color gridlineColor() const { return look().gridlineColor(); }
+    double axisWidth() const { return look().axisWidth(); }
     double graphLabelFontSize() const;
     double graphLabelWidth() const;
     double graphLabelHeight() const;
@@ -103,53 +95,24 @@ public:
     const std::vector<LabelRecord>& graphLabelArray() const { return m_graphLabels; }
     const LabelRecord& noGraphLabel() const { return m_noGraphLabel; }
     /// One record a slot.
-    const std::array<GraphMetaData, kSlots>& metadataArray() const { return m_metadata; }
+    const GraphMetaDataArray& metadataArray() const { return m_frame.metaData(); }
 
 private:
-    struct Axes {
-        HashMarks vertical;
-        HashMarks horizontal;
-    };
-    /// What is drawn for one slot: a function, which may still be refined, or a finished curve.
-    struct SlotCurve {
-        std::size_t slot;
-        std::unique_ptr<CurvePlotter> plotter;
-        PlottedCurve finished;
-        const PlottedCurve& curve() const { return plotter ? plotter->curve() : finished; }
-    };
-
-    // A frame is worked out, then drawn as often as asked.
     void computeFrame();
-    void computeAxes();
-    void computeCurves();
-    void refineSlice();
+    void changed(bool hasChanged);
     bool isWide() const;
-    void drawAxes(DrawingContext& context) const;
-    void drawAxis(DrawingContext& context, bool vertical) const;
-    void drawHashMarks(DrawingContext& context, bool vertical, const HashMarks& marks) const;
-    void drawVerticalTraceLine(DrawingContext& context) const;
-    void drawEllipses(DrawingContext& context) const;
     bool isTracing() const { return m_traceMode != TraceMode::None; }
-
-    // Labels (GraphViewLabels.cpp).
-    void labelGraph();
-    void createGraphLabels();
-    void updateNoGraphLabel();
-    std::string curveLabel(const ExpressionList& list, int slot) const;
 
     Size m_size;
     Viewport m_viewport;
-    std::array<GraphMetaData, kSlots> m_metadata;
-    std::vector<SlotCurve> m_curves;
-    Axes m_axes;
+    TraceMode m_traceMode = TraceMode::None;
+    float m_screenXForTracing = 0;
+    double m_implicitGraphSpeedMultiplier = 1;
+    GraphFrame m_frame;
+    bool m_frameIsCurrent = false;
     std::vector<LabelRecord> m_hashMarkLabels;
     std::vector<LabelRecord> m_graphLabels;
     LabelRecord m_noGraphLabel;
-    TraceMode m_traceMode = TraceMode::None;
-    float m_screenXForTracing = 0;
-    double m_tracedX = 0;
-    double m_implicitGraphSpeedMultiplier = 1;
-    bool m_frameIsCurrent = false;
     Signal<> m_needsDisplay;
     Subscription m_refinementTimer;
     Subscription m_graphTypeChanges;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphing/screen/GraphGesture.h"
 #include "graphing/screen/GraphView.h"
 #include "platform/screens/Touch.h"
 #include "platform/screens/ViewController.h"
@@ -74,34 +75,23 @@ public:
 
     // The state of the gesture, as a test reads it.
 
-    Point touchLocation() const { return m_touchLocation; }
-    float touchDistance() const { return m_touchDistance; }
-    int zoomMode() const { return static_cast<int>(m_zoomMode); }
+    Point touchLocation() const { return {m_gesture.touchLocation().x, m_gesture.touchLocation().y}; }
+    float touchDistance() const { return m_gesture.touchDistance(); }
+    int zoomMode() const { return m_gesture.zoomMode(); }
 
 private:
-    enum class ZoomMode { Undecided = 0, Horizontal = 1, Vertical = 2, Both = 3 };
-
-    void moveGraphWithTouch(const Touches& touches, bool smallMoveOK);
-    void zoomGraphWithSortedTouches(const Touches& touches, bool smallZoomOK);
-    float distanceBetweenTouches(const Touches& touches) const;
-    ZoomMode zoomModeOf(Point vector) const;
-    float pinchDelta() const;
-    double zoomBase() const;
-    void doubleTapped(const Touches& touches);
+    /// Whether curves of the present graph type can be traced: those of functions of x alone.
+    static bool canBeTraced();
+    void doubleTapped(const GraphFingers& fingers);
     void arrowPressed(int across, int upward);
     void zoomAboutCentre(double notches);
     void startOrEndTrace();
     void endTrace();
     struct KeyMeaning;
-    void forgetGesture();
-    void forgetPinch();
 
     GraphView m_graphView;
+    GraphGesture m_gesture{m_graphView};
     GraphPicture* m_picture = nullptr;
-    Point m_touchLocation;         ///< of a pan; (-1, -1) while there is none
-    float m_touchDistance = 0;     ///< at the last step of a pinch; 0 while there is none
-    Point m_touchDifferenceVector; ///< between the fingers when the pinch began
-    ZoomMode m_zoomMode = ZoomMode::Undecided;
 };
 
 } // namespace velmora

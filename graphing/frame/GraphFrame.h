@@ -1,0 +1,84 @@
+#pragma once
+
+#include "graphing/axes/HashMarks.h"
+#include "graphing/frame/GraphSettings.h"
+#include "graphing/plot/CurvePlotter.h"
+#include "graphing/plot/GraphMetaData.h"
+#include "graphing/plot/PlottedCurve.h"
+#include "graphing/plot/Viewport.h"
+#include "graphing/trace/GraphTrace.h"
+
+#include <memory>
+#include <vector>
+
+namespace velmora {
+
+/// The trace line of one frame.
+struct FrameTrace {
+    TraceMode mode = TraceMode::None;
+    float screenX = 0; ///< of the line; a search that finds something moves it there
+    double x = 0;      ///< the same on the plane, and exact where something was found
+    /// Where the curves meet the line.
+    struct Marker {
+        std::size_t slot;
+        float screenY;
+    };
+    std::vector<Marker> markers;
+
+    bool isOn() const { return mode != TraceMode::None; }
+};
+
+/// One picture of the graph, worked out from viewport and settings: marks, curves, labels and trace. It may
+/// be painted as often as asked. Curves that are steep are refined further while there is time.
+class GraphFrame {
+public:
+    /// What is drawn for one slot: a function, which may still be refined, or a finished curve.
+    class Curve {
+    public:
+        Curve(std::size_t slot, std::unique_ptr<CurvePlotter> plotter);
+        Curve(std::size_t slot, PlottedCurve finished);
+        std::size_t slot() const { return m_slot; }
+        const PlottedCurve& lines() const { return m_plotter ? m_plotter->curve() : m_finished; }
+        bool isRefined() const { return !m_plotter || m_plotter->isRefined(); }
+        /// See CurvePlotter::refine.
+        bool refine(double deadline) { return m_plotter && m_plotter->refine(deadline); }
+
+    private:
+        std::size_t m_slot;
+        std::unique_ptr<CurvePlotter> m_plotter;
+        PlottedCurve m_finished;
+    };
+
+    GraphFrame() = default;
+    /// A viewport that is not usable shows only the background.
+    GraphFrame(const Viewport& viewport, GraphSettings settings, TraceMode traceMode, float traceScreenX);
+
+    const Viewport& viewport() const { return m_viewport; }
+    const GraphSettings& settings() const { return m_settings; }
+    const GraphLook& look() const { return m_settings.look; }
+    const HashMarks& verticalMarks() const { return m_vertical; }
+    const HashMarks& horizontalMarks() const { return m_horizontal; }
+    const std::vector<Curve>& curves() const { return m_curves; }
+    const GraphMetaDataArray& metaData() const { return m_metaData; }
+    const FrameTrace& trace() const { return m_trace; }
+
+    /// Goes on with what is left of the curves until the clock passes the deadline (seconds of the monotonic
+    /// clock).
+    void refine(double deadline);
+    bool isRefined() const;
+
+private:
+    void computeMarks();
+    void computeCurves();
+    void computeTrace();
+
+    Viewport m_viewport;
+    GraphSettings m_settings;
+    HashMarks m_vertical;
+    HashMarks m_horizontal;
+    std::vector<Curve> m_curves;
+    GraphMetaDataArray m_metaData;
+    FrameTrace m_trace;
+};
+
+} // namespace velmora
