@@ -20,6 +20,8 @@ public:
     const Token& token() const { return m_token; }
     const ExpressionList* targetFromModel() const { return m_target.target; }
     int intIndex() const { return m_target.intIndex; }
+    /// The tree of the equation called, as it is now; null where there is none.
+    std::shared_ptr<const Expression> equation() const;
 
     std::string functionDescription() const override { return m_token.internalRepresentation(); }
     ComplexValue valueWithComplex(ComplexValue z) const override;
@@ -29,8 +31,6 @@ public:
     bool refersTo(DependenceSearch& search) const override;
 
 private:
-    std::shared_ptr<const Expression> equation() const;
-
     Token m_token;
     TargetAndIndex m_target;
 };
