@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <bit>
 #include <cstdint>
 #include <limits>
 
@@ -53,17 +52,14 @@ struct DecoratedInterval {
     }
 };
 
-/// The next double below or above: the value itself where there is none (an infinity, NaN).
-constexpr double nextBelow(double value);
+/// A double below or above the value, at most one farther than the next, without a branch (Rump, Zimmermann,
+/// Boldo and Melquiond, Computing predecessor and successor in rounding to nearest, 2009). An infinite value
+/// may become the largest finite one; NaN stays.
 constexpr double nextAbove(double value) {
-    if (!(value < std::numeric_limits<double>::infinity())) {
-        return value;
-    }
-    if (value == 0) {
-        return std::numeric_limits<double>::denorm_min();
-    }
-    const auto bits = std::bit_cast<std::uint64_t>(value);
-    return std::bit_cast<double>(value > 0 ? bits + 1 : bits - 1);
+    constexpr double kShare = 0x1.0000000000001p-53;
+    constexpr double kLargest = std::numeric_limits<double>::max();
+    const double magnitude = std::min(value < 0 ? -value : value, kLargest);
+    return value + (magnitude * kShare + std::numeric_limits<double>::denorm_min());
 }
 constexpr double nextBelow(double value) { return -nextAbove(-value); }
 

@@ -9,9 +9,6 @@ namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-/// Below this the error of a product may itself be rounded away.
-constexpr double kExactProductFrom = 1e-280;
-
 struct Ends {
     double below; ///< the largest double not above the exact value
     double above; ///< the smallest not below
@@ -24,6 +21,10 @@ Ends around(double rounded, double error) {
     }
     return error < 0 ? Ends{nextBelow(rounded), rounded} : Ends{rounded, nextAbove(rounded)};
 }
+
+/// Whether a number has so few digits that its product with another such number is exact, as the whole
+/// numbers that people type have.
+bool isShort(double a) { return static_cast<double>(static_cast<float>(a)) == a; }
 
 /// What overflowed may be any finite number beyond the largest.
 Ends afterOverflow(double rounded) {
@@ -48,10 +49,7 @@ Ends productOfEnds(double a, double b) {
     if (!std::isfinite(rounded)) {
         return std::isfinite(a) && std::isfinite(b) ? afterOverflow(rounded) : Ends{rounded, rounded};
     }
-    if (std::fabs(rounded) < kExactProductFrom) {
-        return {nextBelow(rounded), nextAbove(rounded)};
-    }
-    return around(rounded, std::fma(a, b, -rounded));
+    return isShort(a) && isShort(b) ? Ends{rounded, rounded} : Ends{nextBelow(rounded), nextAbove(rounded)};
 }
 
 Ends quotientOfEnds(double a, double b) {
@@ -62,11 +60,8 @@ Ends quotientOfEnds(double a, double b) {
     if (!std::isfinite(rounded)) {
         return std::isfinite(a) ? afterOverflow(rounded) : Ends{rounded, rounded};
     }
-    if (std::fabs(a) < kExactProductFrom || std::fabs(rounded) < kExactProductFrom) {
-        return {nextBelow(rounded), nextAbove(rounded)};
-    }
-    const double remainder = -std::fma(rounded, b, -a);
-    return around(rounded, b < 0 ? -remainder : remainder);
+    const bool isExact = isShort(rounded) && isShort(b) && rounded * b == a;
+    return isExact ? Ends{rounded, rounded} : Ends{nextBelow(rounded), nextAbove(rounded)};
 }
 
 /// The pairs of ends whose products are the least and the greatest.

@@ -4,10 +4,9 @@
 
 namespace velmora {
 
-// The four operations, negation and whole powers on intervals. Ends are rounded outward by the exact error of
-// each operation (Dekker 1971, Knuth's two-sum), so exact results stay exact and no true value is lost.
-// Points at which the calculator's own operation is undefined (a division by zero, ∞ − ∞, 0 · ∞) lower the
-// decoration.
+// The four operations, negation and whole powers on intervals. Ends are rounded outward unless they are
+// exact: sums by Knuth's two-sum, products and quotients where their numbers are short. Points at which the
+// calculator's own operation is undefined (a division by zero, ∞ − ∞, 0 · ∞) lower the decoration.
 
 DecoratedInterval negative(const DecoratedInterval& a);
 DecoratedInterval sum(const DecoratedInterval& a, const DecoratedInterval& b);

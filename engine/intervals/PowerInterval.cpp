@@ -23,8 +23,9 @@ DecoratedInterval ofEnds(double one, double other, Decoration grade, const RealI
 /// Of a base that is not negative, for a fixed exponent: rising, or falling from infinity.
 DecoratedInterval powerOfPositive(const DecoratedInterval& base, double exponent, Decoration grade) {
     const bool hasPole = exponent < 0 && base.lowest == 0;
+    const double least = base.lowest + 0.0; // a minus zero has its infinity on the other side
     const DecoratedInterval range =
-        ofEnds(realPower(base.lowest, exponent), realPower(base.highest, exponent), grade, kNotNegative);
+        ofEnds(realPower(least, exponent), realPower(base.highest, exponent), grade, kNotNegative);
     return hasPole ? range.atMost(Decoration::PossiblyUndefined) : range;
 }
 
