@@ -26,6 +26,8 @@ constexpr std::string_view kNoComplexInequalities =
 double undefinedForAll(double /*order*/, double /*x*/) { return std::numeric_limits<double>::quiet_NaN(); }
 
 using enum BivarType;
+constexpr std::uint32_t kUsual = 20;
+constexpr std::uint32_t kSlow = 200;
 
 // The names "unknown" are intended behaviour of descriptions.
 // clang-format off
@@ -33,17 +35,17 @@ constexpr std::array kBivarTable{
     BivarRow{Add, "+", "+", nullptr, sum, complexSum, ""},
     BivarRow{Subtract, "-", "-", nullptr, difference, complexDifference, ""},
     BivarRow{Multiply, "*", "*", nullptr, product, complexProduct, ""},
-    BivarRow{Divide, "/", "/", nullptr, quotient, quotient, ""},
-    BivarRow{Power, "^", "^", realPowerApplies, realPower, complexPower, ""},
-    BivarRow{LogarithmToBase, "logbase(", "logbase", areInLogarithmDomain, logarithmToBase, complexLogarithmToBase, ""},
-    BivarRow{Permutations, "perm(", "perm", nullptr, perm, nullptr, ""},
-    BivarRow{Combinations, "comb(", "comb", nullptr, comb, nullptr, ""},
-    BivarRow{Modulo, "mod(", "mod", nullptr, modulo, nullptr, ""},
-    BivarRow{PositiveModulo, "modPos(", "modPos", nullptr, positiveModulo, nullptr, ""},
-    BivarRow{NthRoot, "nroot(", "nroot", nullptr, nthRoot, complexNthRoot, ""},
-    BivarRow{NormalBetween, "normVarBetween(", "unknown", nullptr, normalBetween, nullptr, ""},
-    BivarRow{LeastCommonMultiple, "lcm(", "lcm", nullptr, lcm, nullptr, ""},
-    BivarRow{GreatestCommonDivisor, "gcd(", "gcd", nullptr, gcd, nullptr, ""},
+    BivarRow{Divide, "/", "/", nullptr, quotient, quotient, "", 5},
+    BivarRow{Power, "^", "^", realPowerApplies, realPower, complexPower, "", kUsual},
+    BivarRow{LogarithmToBase, "logbase(", "logbase", areInLogarithmDomain, logarithmToBase, complexLogarithmToBase, "", kSlow},
+    BivarRow{Permutations, "perm(", "perm", nullptr, perm, nullptr, "", kSlow, permSteps},
+    BivarRow{Combinations, "comb(", "comb", nullptr, comb, nullptr, "", kSlow, combSteps},
+    BivarRow{Modulo, "mod(", "mod", nullptr, modulo, nullptr, "", kUsual, moduloSteps},
+    BivarRow{PositiveModulo, "modPos(", "modPos", nullptr, positiveModulo, nullptr, "", kUsual, moduloSteps},
+    BivarRow{NthRoot, "nroot(", "nroot", nullptr, nthRoot, complexNthRoot, "", kSlow},
+    BivarRow{NormalBetween, "normVarBetween(", "unknown", nullptr, normalBetween, nullptr, "", kSlow},
+    BivarRow{LeastCommonMultiple, "lcm(", "lcm", nullptr, lcm, nullptr, "", kSlow, gcdSteps},
+    BivarRow{GreatestCommonDivisor, "gcd(", "gcd", nullptr, gcd, nullptr, "", kSlow, gcdSteps},
     BivarRow{Minimum, "min(", "min", nullptr, minimum, nullptr, ""},
     BivarRow{Maximum, "max(", "max", nullptr, maximum, nullptr, ""},
     BivarRow{BesselJ, "BesselJ_n(", "unknown", nullptr, undefinedForAll, nullptr, ""},

@@ -2,6 +2,7 @@
 
 #include "engine/numbers/ComplexValue.h"
 
+#include <cstdint>
 #include <string_view>
 
 namespace velmora {
@@ -42,6 +43,9 @@ struct BivarRow {
     double (*real)(double, double);       ///< the real rule
     ComplexValue (*complex)(ComplexValue, ComplexValue); ///< used outside the real rule; null: NaN
     std::string_view complexMessage;                     ///< raised once for a complex input, or empty
+    std::uint32_t cost = 2;                              ///< in steps of arithmetic (EvaluationBudget)
+    /// What it costs above that for these inputs; null: nothing.
+    std::int64_t (*realSteps)(double, double) = nullptr;
 };
 
 /// The row of a type; every type has one.

@@ -37,6 +37,10 @@ using enum UnivarType;
 constexpr AngleUse kNone = AngleUse::None;
 constexpr AngleUse kTaken = AngleUse::Taken;
 constexpr AngleUse kGiven = AngleUse::Given;
+// Costs, by the order of what was measured; a table of exact ones would hold for one machine only.
+constexpr std::uint32_t kQuick = 2;
+constexpr std::uint32_t kUsual = 20;
+constexpr std::uint32_t kSlow = 200;
 constexpr RealInterval kEverywhere{};
 constexpr RealInterval kUnitInterval{-1, 1};
 constexpr RealInterval kNotNegative{.lowest = 0};
@@ -45,48 +49,48 @@ constexpr RealInterval kPositive{.lowest = std::numeric_limits<double>::denorm_m
 // The names "??" are intended behaviour: descriptions know only some of the functions.
 // clang-format off
 constexpr std::array kUnivarTable{
-    UnivarRow{NoFunction, "", "", "NF", kNone, kEverywhere, nullptr, nullptr, nullptr, ""},
-    UnivarRow{AbsoluteValue, "abs(", "", "abs", kNone, kEverywhere, absoluteValue, nullptr, modulus, ""},
-    UnivarRow{Sine, "sin(", "", "sin", kTaken, kEverywhere, sine, sineOfDegrees, complexSine, ""},
-    UnivarRow{Cosine, "cos(", "", "cos", kTaken, kEverywhere, cosine, cosineOfDegrees, complexCosine, ""},
-    UnivarRow{Tangent, "tan(", "", "tan", kTaken, kEverywhere, tangent, tangentOfDegrees, complexTangent, ""},
-    UnivarRow{ArcSine, "asin(", "", "??", kGiven, kUnitInterval, arcSine, arcSineInDegrees, complexArcSine, ""},
-    UnivarRow{ArcCosine, "acos(", "", "??", kGiven, kUnitInterval, arcCosine, arcCosineInDegrees, complexArcCosine, ""},
-    UnivarRow{ArcTangent, "atan(", "", "??", kGiven, kEverywhere, arcTangent, arcTangentInDegrees, complexArcTangent, ""},
-    UnivarRow{Cosecant, "csc(", "", "csc", kTaken, kEverywhere, cosecant, cosecantOfDegrees, complexCosecant, ""},
-    UnivarRow{Secant, "sec(", "", "sec", kTaken, kEverywhere, secant, secantOfDegrees, complexSecant, ""},
-    UnivarRow{Cotangent, "cot(", "", "cot", kTaken, kEverywhere, cotangent, cotangentOfDegrees, complexCotangent, ""},
-    UnivarRow{HyperbolicCosine, "cosh(", "", "??", kNone, kEverywhere, hyperbolicCosine, nullptr, complexHyperbolicCosine, ""},
-    UnivarRow{HyperbolicSine, "sinh(", "", "??", kNone, kEverywhere, hyperbolicSine, nullptr, complexHyperbolicSine, ""},
-    UnivarRow{HyperbolicTangent, "tanh(", "", "??", kNone, kEverywhere, hyperbolicTangent, nullptr, complexHyperbolicTangent, ""},
-    UnivarRow{HyperbolicCotangent, "coth(", "", "??", kNone, kEverywhere, hyperbolicCotangent, nullptr, complexHyperbolicCotangent, ""},
-    UnivarRow{HyperbolicSecant, "sech(", "", "??", kNone, kEverywhere, hyperbolicSecant, nullptr, complexHyperbolicSecant, ""},
-    UnivarRow{HyperbolicCosecant, "csch(", "", "??", kNone, kEverywhere, hyperbolicCosecant, nullptr, complexHyperbolicCosecant, ""},
-    UnivarRow{NaturalLogarithm, "ln(", "", "ln", kNone, kPositive, naturalLogarithm, nullptr, complexNaturalLogarithm, ""},
-    UnivarRow{CommonLogarithm, "log(", "", "log10", kNone, kPositive, commonLogarithm, nullptr, complexCommonLogarithm, ""},
-    UnivarRow{CubeRoot, "cbrt(", "", "cbrt", kNone, kEverywhere, cubeRoot, nullptr, complexCubeRoot, ""},
-    UnivarRow{SquareRoot, "sqrt(", "", "sqrt", kNone, kNotNegative, squareRoot, nullptr, complexSquareRoot, ""},
-    UnivarRow{Factorial, "fact(", "", "fact", kNone, kEverywhere, factorial, nullptr, nullptr, kNoComplexFactorial},
-    UnivarRow{Negation, "N", "", "N", kNone, kEverywhere, negative, nullptr, complexNegative, ""},
-    UnivarRow{Random, "rand(", "", "rand", kNone, kEverywhere, randomInteger, nullptr, nullptr, ""},
-    UnivarRow{Round, "round(", "", "round", kNone, kEverywhere, roundToNearest, nullptr, nullptr, ""},
-    UnivarRow{SpeedOfSound, "cSoundInAir(", "", "??", kNone, kEverywhere, speedOfSoundInAir, nullptr, nullptr, ""},
-    UnivarRow{AtmosphereTemperature, "ISATemp(", "", "??", kNone, kEverywhere, atmosphereTemperature, nullptr, nullptr, ""},
-    UnivarRow{AtmospherePressure, "ISAPressure(", "", "??", kNone, kEverywhere, atmospherePressure, nullptr, nullptr, ""},
-    UnivarRow{AtmosphereDensitySlugs, "ISADensitySlugsFt3(", "", "??", kNone, kEverywhere, atmosphereDensityInSlugs, nullptr, nullptr, ""},
-    UnivarRow{AtmosphereDensity, "ISADensityKgM3(", "", "??", kNone, kEverywhere, atmosphereDensity, nullptr, nullptr, ""},
-    UnivarRow{Bell, "bell(", "", "??", kNone, kEverywhere, normalDensity, nullptr, nullptr, ""},
-    UnivarRow{CumulativeNormal, "cumNormDist(", "", "??", kNone, kEverywhere, cumulativeNormal, nullptr, nullptr, kNoComplexNormal},
-    UnivarRow{UserDefined, "", "", "", kNone, kEverywhere, nullptr, nullptr, nullptr, ""}, // named by its own token
-    UnivarRow{ToFraction, "toFraction(", "", "toFraction", kNone, kEverywhere, fractionValue, nullptr, nullptr, kNoComplexFraction},
-    UnivarRow{ToMixedNumber, "toMixedNumber(", "", "??", kNone, kEverywhere, fractionValue, nullptr, nullptr, kNoComplexFraction},
-    UnivarRow{RoundUp, "roundUp(", "", "??", kNone, kEverywhere, roundUp, nullptr, nullptr, kNoComplexRounding},
-    UnivarRow{RoundDown, "roundDown(", "", "??", kNone, kEverywhere, roundDown, nullptr, nullptr, kNoComplexRounding},
-    UnivarRow{RealPart, "Re(", "re(", "??", kNone, kEverywhere, realPartOfReal, nullptr, realPart, ""},
-    UnivarRow{ImaginaryPart, "Im(", "im(", "??", kNone, kEverywhere, imaginaryPartOfReal, nullptr, imaginaryPart, ""},
-    UnivarRow{Conjugate, "conj(", "", "??", kNone, kEverywhere, conjugateOfReal, nullptr, conjugate, ""},
-    UnivarRow{Argument, "arg(", "", "??", kNone, kEverywhere, argumentOfReal, nullptr, argument, ""},
-    UnivarRow{ErrorFunction, "erf(", "", "??", kNone, kEverywhere, errorFunction, nullptr, nullptr, kNoComplexErrorFunction},
+    UnivarRow{NoFunction, "", "", "NF", kNone, kQuick, kEverywhere, nullptr, nullptr, nullptr, ""},
+    UnivarRow{AbsoluteValue, "abs(", "", "abs", kNone, kQuick, kEverywhere, absoluteValue, nullptr, modulus, ""},
+    UnivarRow{Sine, "sin(", "", "sin", kTaken, kUsual, kEverywhere, sine, sineOfDegrees, complexSine, ""},
+    UnivarRow{Cosine, "cos(", "", "cos", kTaken, kUsual, kEverywhere, cosine, cosineOfDegrees, complexCosine, ""},
+    UnivarRow{Tangent, "tan(", "", "tan", kTaken, kUsual, kEverywhere, tangent, tangentOfDegrees, complexTangent, ""},
+    UnivarRow{ArcSine, "asin(", "", "??", kGiven, kUsual, kUnitInterval, arcSine, arcSineInDegrees, complexArcSine, ""},
+    UnivarRow{ArcCosine, "acos(", "", "??", kGiven, kUsual, kUnitInterval, arcCosine, arcCosineInDegrees, complexArcCosine, ""},
+    UnivarRow{ArcTangent, "atan(", "", "??", kGiven, kUsual, kEverywhere, arcTangent, arcTangentInDegrees, complexArcTangent, ""},
+    UnivarRow{Cosecant, "csc(", "", "csc", kTaken, kUsual, kEverywhere, cosecant, cosecantOfDegrees, complexCosecant, ""},
+    UnivarRow{Secant, "sec(", "", "sec", kTaken, kUsual, kEverywhere, secant, secantOfDegrees, complexSecant, ""},
+    UnivarRow{Cotangent, "cot(", "", "cot", kTaken, kUsual, kEverywhere, cotangent, cotangentOfDegrees, complexCotangent, ""},
+    UnivarRow{HyperbolicCosine, "cosh(", "", "??", kNone, kUsual, kEverywhere, hyperbolicCosine, nullptr, complexHyperbolicCosine, ""},
+    UnivarRow{HyperbolicSine, "sinh(", "", "??", kNone, kUsual, kEverywhere, hyperbolicSine, nullptr, complexHyperbolicSine, ""},
+    UnivarRow{HyperbolicTangent, "tanh(", "", "??", kNone, kUsual, kEverywhere, hyperbolicTangent, nullptr, complexHyperbolicTangent, ""},
+    UnivarRow{HyperbolicCotangent, "coth(", "", "??", kNone, kUsual, kEverywhere, hyperbolicCotangent, nullptr, complexHyperbolicCotangent, ""},
+    UnivarRow{HyperbolicSecant, "sech(", "", "??", kNone, kUsual, kEverywhere, hyperbolicSecant, nullptr, complexHyperbolicSecant, ""},
+    UnivarRow{HyperbolicCosecant, "csch(", "", "??", kNone, kUsual, kEverywhere, hyperbolicCosecant, nullptr, complexHyperbolicCosecant, ""},
+    UnivarRow{NaturalLogarithm, "ln(", "", "ln", kNone, kUsual, kPositive, naturalLogarithm, nullptr, complexNaturalLogarithm, ""},
+    UnivarRow{CommonLogarithm, "log(", "", "log10", kNone, kUsual, kPositive, commonLogarithm, nullptr, complexCommonLogarithm, ""},
+    UnivarRow{CubeRoot, "cbrt(", "", "cbrt", kNone, kUsual, kEverywhere, cubeRoot, nullptr, complexCubeRoot, ""},
+    UnivarRow{SquareRoot, "sqrt(", "", "sqrt", kNone, kQuick, kNotNegative, squareRoot, nullptr, complexSquareRoot, ""},
+    UnivarRow{Factorial, "fact(", "", "fact", kNone, kSlow, kEverywhere, factorial, nullptr, nullptr, kNoComplexFactorial},
+    UnivarRow{Negation, "N", "", "N", kNone, kQuick, kEverywhere, negative, nullptr, complexNegative, ""},
+    UnivarRow{Random, "rand(", "", "rand", kNone, kUsual, kEverywhere, randomInteger, nullptr, nullptr, ""},
+    UnivarRow{Round, "round(", "", "round", kNone, kQuick, kEverywhere, roundToNearest, nullptr, nullptr, ""},
+    UnivarRow{SpeedOfSound, "cSoundInAir(", "", "??", kNone, kUsual, kEverywhere, speedOfSoundInAir, nullptr, nullptr, ""},
+    UnivarRow{AtmosphereTemperature, "ISATemp(", "", "??", kNone, kUsual, kEverywhere, atmosphereTemperature, nullptr, nullptr, ""},
+    UnivarRow{AtmospherePressure, "ISAPressure(", "", "??", kNone, kUsual, kEverywhere, atmospherePressure, nullptr, nullptr, ""},
+    UnivarRow{AtmosphereDensitySlugs, "ISADensitySlugsFt3(", "", "??", kNone, kUsual, kEverywhere, atmosphereDensityInSlugs, nullptr, nullptr, ""},
+    UnivarRow{AtmosphereDensity, "ISADensityKgM3(", "", "??", kNone, kUsual, kEverywhere, atmosphereDensity, nullptr, nullptr, ""},
+    UnivarRow{Bell, "bell(", "", "??", kNone, kUsual, kEverywhere, normalDensity, nullptr, nullptr, ""},
+    UnivarRow{CumulativeNormal, "cumNormDist(", "", "??", kNone, kSlow, kEverywhere, cumulativeNormal, nullptr, nullptr, kNoComplexNormal},
+    UnivarRow{UserDefined, "", "", "", kNone, kUsual, kEverywhere, nullptr, nullptr, nullptr, ""}, // named by its own token
+    UnivarRow{ToFraction, "toFraction(", "", "toFraction", kNone, kSlow, kEverywhere, fractionValue, nullptr, nullptr, kNoComplexFraction},
+    UnivarRow{ToMixedNumber, "toMixedNumber(", "", "??", kNone, kSlow, kEverywhere, fractionValue, nullptr, nullptr, kNoComplexFraction},
+    UnivarRow{RoundUp, "roundUp(", "", "??", kNone, kQuick, kEverywhere, roundUp, nullptr, nullptr, kNoComplexRounding},
+    UnivarRow{RoundDown, "roundDown(", "", "??", kNone, kQuick, kEverywhere, roundDown, nullptr, nullptr, kNoComplexRounding},
+    UnivarRow{RealPart, "Re(", "re(", "??", kNone, kQuick, kEverywhere, realPartOfReal, nullptr, realPart, ""},
+    UnivarRow{ImaginaryPart, "Im(", "im(", "??", kNone, kQuick, kEverywhere, imaginaryPartOfReal, nullptr, imaginaryPart, ""},
+    UnivarRow{Conjugate, "conj(", "", "??", kNone, kQuick, kEverywhere, conjugateOfReal, nullptr, conjugate, ""},
+    UnivarRow{Argument, "arg(", "", "??", kNone, kQuick, kEverywhere, argumentOfReal, nullptr, argument, ""},
+    UnivarRow{ErrorFunction, "erf(", "", "??", kNone, kUsual, kEverywhere, errorFunction, nullptr, nullptr, kNoComplexErrorFunction},
 };
 // clang-format on
 

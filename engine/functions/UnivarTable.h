@@ -2,6 +2,7 @@
 
 #include "engine/numbers/ComplexValue.h"
 
+#include <cstdint>
 #include <limits>
 #include <string_view>
 
@@ -71,6 +72,7 @@ struct UnivarRow {
     std::string_view otherToken; ///< a second spelling, or empty
     std::string_view name;       ///< how a tree describes the node
     AngleUse angle;
+    std::uint32_t cost;                    ///< of one value, in steps of arithmetic (EvaluationBudget)
     RealInterval realDomain;               ///< where `real` holds
     double (*real)(double);                ///< the real rule; angles in radians
     double (*realInDegrees)(double);       ///< the real rule in degree mode; null where angle is None

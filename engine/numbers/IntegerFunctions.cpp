@@ -1,8 +1,10 @@
 #include "engine/numbers/IntegerFunctions.h"
 
 #include "engine/numbers/ExtendedPrecision.h"
+#include "engine/numbers/Modulo.h"
 #include "engine/numbers/MyMath.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -16,6 +18,30 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 bool isNearInteger(double x) {
     constexpr double kTolerance = 1e-8;
     return std::fabs(static_cast<float>(x - std::round(x))) <= kTolerance;
+}
+
+bool areWhole(double n, double k) { return MyMath::isInteger(n) && MyMath::isInteger(k); }
+
+/// Below this every whole number is a double.
+constexpr double kExactWholeNumbers = 9007199254740992; // 2^53
+
+/// C(n, k) of whole numbers, k at most n − k, exactly; 2^53 where it is that or more.
+double wholeComb(double n, double k) {
+    double ways = 1; // C(n − k + i, i) after i factors, which grows with i
+    for (double i = 1; i <= k; i += 1) {
+        const double common = gcd(ways, i);
+        const double factor = (n - k + i) / (i / common); // whole, since ways/common has no divisor left of i
+        ways = ways / common * factor;
+        if (ways >= kExactWholeNumbers) {
+            return kExactWholeNumbers;
+        }
+    }
+    return ways;
+}
+
+/// How many factors a product of so many has before it is infinite.
+std::int64_t factors(double count, double longest) {
+    return count > 0 ? static_cast<std::int64_t>(std::min(count, longest)) : 0; // 0 for NaN
 }
 
 /// Γ(a + 1). The sum is formed in extended precision, for Γ magnifies its rounding by up to a·ln a.
@@ -47,9 +73,11 @@ double lcm(double a, double b) {
 }
 
 double perm(double n, double k) {
-    if (!MyMath::isInteger(n) || !MyMath::isInteger(k) || std::round(n) < std::round(k) ||
-        std::round(k) < 0) {
+    if (!areWhole(n, k) || std::round(n) < 0 || std::round(k) < 0) {
         return gammaOfSuccessor(n) / gammaOfSuccessor(Extended{n} - k);
+    }
+    if (std::round(k) > std::round(n)) {
+        return 0;
     }
     double a = std::round(n);
     double product = 1;
@@ -62,24 +90,41 @@ double perm(double n, double k) {
 }
 
 double comb(double n, double k) {
-    if (!MyMath::isInteger(n) || !MyMath::isInteger(k) || std::round(n) < std::round(k) ||
-        std::round(k) < 0) {
+    if (!areWhole(n, k) || std::round(n) < 0 || std::round(k) < 0) {
         return gammaOfSuccessor(n) / (gammaOfSuccessor(k) * gammaOfSuccessor(Extended{n} - k));
     }
-    double a = std::round(n);
-    double b = std::round(k);
-    if (std::round(n - k) < b) {
-        b = std::round(n - k); // C(n, k) = C(n, n − k) keeps the loop short
+    if (std::round(k) > std::round(n)) {
+        return 0;
     }
+    const double chosen = std::min(std::round(k), std::round(n - k)); // C(n, k) = C(n, n − k) is shorter
+    double a = std::round(n);
     double product = 1;
     // Multiplying and dividing in turn keeps the intermediate values small.
-    for (; b >= 1 && std::isfinite(product) && product != 0; b -= 1) {
+    for (double b = chosen; b >= 1 && std::isfinite(product) && product != 0; b -= 1) {
         product = product * a / b;
         a -= 1;
     }
-    return product;
+    constexpr double kNearly = 1.001; // the product is rounded often
+    const double ways = product < kNearly * kExactWholeNumbers ? wholeComb(std::round(n), chosen) : product;
+    return ways < kExactWholeNumbers ? ways : product;
 }
 
-double factorial(double a) { return static_cast<double>(gammaOfSuccessor(a)); }
+std::int64_t gcdSteps(double a, double b) {
+    constexpr std::int64_t kOfFullMantissas = 100;
+    return kOfFullMantissas + std::max(moduloSteps(a, b), moduloSteps(b, a));
+}
+
+std::int64_t permSteps(double /*n*/, double k) {
+    constexpr double kLongest = 171; // 171! is infinite
+    return factors(k, kLongest);
+}
+
+std::int64_t combSteps(double n, double k) {
+    constexpr double kLongest = 515; // C(1030, 515) is infinite
+    constexpr int kStepsOfFactor = 6;
+    return kStepsOfFactor * factors(std::min(k, n - k), kLongest);
+}
+
+double factorial(double a) { return a == -1 ? kNaN : gammaOfSuccessor(a); }
 
 } // namespace velmora

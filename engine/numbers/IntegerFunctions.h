@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 namespace velmora {
 
 /// Greatest common divisor of two whole numbers of any size and sign; never negative, gcd(0, 0) = 0.
@@ -10,15 +12,21 @@ double gcd(double a, double b);
 /// behaviour.
 double lcm(double a, double b);
 
-/// Permutations: ways to arrange k of n things. Arguments that are not whole, or k outside 0…n, are answered
-/// by the gamma extension Γ(n + 1) / Γ(n − k + 1). Grows to infinity, never fails.
+/// Permutations: ways to arrange k of n things; 0 for k > n. Arguments that are not whole or below 0 are
+/// answered by the gamma extension Γ(n + 1) / Γ(n − k + 1). Grows to infinity, never fails.
 double perm(double n, double k);
 
-/// Combinations: ways to choose k of n things, extended as Γ(n + 1) / (Γ(k + 1)·Γ(n − k + 1)).
+/// Combinations: ways to choose k of n things, exactly while that is below 2^53; extended as
+/// Γ(n + 1) / (Γ(k + 1)·Γ(n − k + 1)).
 double comb(double n, double k);
 
-/// Γ(a + 1), the factorial of any real number; NaN at the negative whole numbers below −1, where it has
-/// poles.
+// How many steps of arithmetic the above take for these arguments, roughly; at most some thousands.
+
+std::int64_t gcdSteps(double a, double b);
+std::int64_t permSteps(double n, double k);
+std::int64_t combSteps(double n, double k);
+
+/// Γ(a + 1), the factorial of any real number; NaN at the negative whole numbers, where it has poles.
 double factorial(double a);
 
 } // namespace velmora

@@ -1,5 +1,6 @@
 #include "engine/numbers/Modulo.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmora {
@@ -12,6 +13,13 @@ double positiveModulo(double a, double b) {
         return remainder;
     }
     return remainder + b >= 0 ? remainder + b : remainder - b;
+}
+
+std::int64_t moduloSteps(double a, double b) {
+    if (a == 0 || b == 0 || !std::isfinite(a) || !std::isfinite(b)) {
+        return 0;
+    }
+    return std::max(std::ilogb(a) - std::ilogb(b), 0);
 }
 
 } // namespace velmora

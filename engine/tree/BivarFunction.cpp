@@ -56,7 +56,7 @@ void BivarFunction::setInput2(std::unique_ptr<Expression> input) {
 }
 
 void BivarFunction::refreshTraits() {
-    resetTraits();
+    resetTraits(row().cost);
     adoptTraits(m_input1.get());
     adoptTraits(m_input2.get());
     if (m_type == BivarType::NoOperator) {
@@ -112,7 +112,11 @@ std::unique_ptr<Expression> BivarFunction::checkForFractionalPower(std::unique_p
 
 ComplexValue BivarFunction::complexValue(ComplexEvaluation& evaluation) const {
     const ComplexValue a = complexOf(*m_input1, evaluation);
-    return valueWithComplex(a, complexOf(*m_input2, evaluation));
+    const ComplexValue b = complexOf(*m_input2, evaluation);
+    if (row().realSteps != nullptr && !evaluation.budget.spend(row().realSteps(a.real(), b.real()))) {
+        return undefinedValue();
+    }
+    return valueWithComplex(a, b);
 }
 
 void BivarFunction::describeToProgram(RealProgramBuilder& builder) const {

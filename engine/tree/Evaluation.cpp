@@ -8,8 +8,8 @@ namespace {
 
 // Both out of line, for the curves of a graph rarely come here.
 [[gnu::noinline]] ComplexValue evaluateTree(const Expression& tree, const VariableValues& variables,
-                                            EvaluationBudget* budget) {
-    if (budget != nullptr && budget->isSpent()) {
+                                            EvaluationBudget& budget) {
+    if (!budget.spend(kCostOfTree * tree.cost())) {
         return undefinedValue();
     }
     GeneralEvaluation general(variables, budget);
@@ -17,16 +17,19 @@ namespace {
 }
 
 [[gnu::noinline]] ComplexValue evaluateTreeAt(const Expression& tree, ComplexValue z,
-                                              EvaluationBudget* budget) {
+                                              EvaluationBudget& budget) {
     return evaluateTree(tree, {.byType = {z, z, z}}, budget);
 }
 
 } // namespace
 
-ComplexValue evaluate(const Expression& tree, const VariableValues& variables, EvaluationBudget* budget) {
+ComplexValue evaluate(const Expression& tree, const VariableValues& variables, EvaluationBudget& budget) {
     const auto& [x, y, none] = variables.byType;
     // A value without variables is asked for once a line, which a program would not be worth.
     if (tree.isFunction() && variables.areGiven && isReal(x) && isReal(y)) {
+        if (!budget.spend(tree.cost())) {
+            return undefinedValue();
+        }
         RealProgram::Run run(x.real(), y.real(), none.real(), variables.areTwo, budget);
         const double value = static_cast<const FunctionExpression&>(tree).realProgram().value(run);
         if (!run.leftReals) {
@@ -36,15 +39,18 @@ ComplexValue evaluate(const Expression& tree, const VariableValues& variables, E
     return evaluateTree(tree, variables, budget);
 }
 
-ComplexValue evaluateAt(const Expression& tree, ComplexValue z, EvaluationBudget* budget) {
+ComplexValue evaluateAt(const Expression& tree, ComplexValue z, EvaluationBudget& budget) {
     return isReal(z) ? evaluateAtReal(tree, z.real(), budget) : evaluateTreeAt(tree, z, budget);
 }
 
 // Out of line: merged into the above, GCC joins both parts of z in memory to read one of them back, and the
 // wait for that costs more than most curves.
-[[gnu::noinline]] ComplexValue evaluateAtReal(const Expression& tree, double x, EvaluationBudget* budget) {
+[[gnu::noinline]] ComplexValue evaluateAtReal(const Expression& tree, double x, EvaluationBudget& budget) {
     if (!tree.isFunction()) {
         return evaluateTreeAt(tree, x, budget);
+    }
+    if (!budget.spend(tree.cost())) {
+        return undefinedValue();
     }
     RealProgram::Run run(x, x, x, false, budget);
     const double value = static_cast<const FunctionExpression&>(tree).realProgram().value(run);

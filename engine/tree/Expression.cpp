@@ -16,7 +16,7 @@ namespace velmora {
 
 namespace {
 
-constexpr std::uint32_t kMaximumSize = std::numeric_limits<std::uint32_t>::max() / 4;
+constexpr std::uint32_t kMaximumTreeCost = std::numeric_limits<std::uint32_t>::max() / 4;
 
 const ComplexValue kNoValue{std::numeric_limits<double>::quiet_NaN(),
                             std::numeric_limits<double>::quiet_NaN()};
@@ -25,15 +25,18 @@ const ComplexValue kNoValue{std::numeric_limits<double>::quiet_NaN(),
 
 ComplexValue Expression::value() const {
     const ComplexValue none = undefinedValue();
-    return evaluate(*this, {.byType = {none, none, none}, .areGiven = false}, nullptr);
+    EvaluationBudget budget;
+    return budget.settled(evaluate(*this, {.byType = {none, none, none}, .areGiven = false}, budget));
 }
 
 ComplexValue Expression::valueWithVariableValue(ComplexValue z) const {
-    return evaluateAt(*this, z, nullptr);
+    EvaluationBudget budget;
+    return budget.settled(evaluateAt(*this, z, budget));
 }
 
 ComplexValue Expression::valueWithVariableValues(ComplexValue x, ComplexValue y) const {
-    return evaluate(*this, {.byType = {x, y, undefinedValue()}, .areTwo = true}, nullptr);
+    EvaluationBudget budget;
+    return budget.settled(evaluate(*this, {.byType = {x, y, undefinedValue()}, .areTwo = true}, budget));
 }
 
 double Expression::roundedRealValueWithVariableValue(ComplexValue z) const {
@@ -91,7 +94,7 @@ void Expression::adoptTraits(const Expression* input) {
     const bool isUsable = input != nullptr && !input->isMark();
     if (input != nullptr) {
         m_height = static_cast<std::uint16_t>(std::max<int>(m_height, input->m_height + 1));
-        m_size = std::min(m_size + input->m_size, kMaximumSize);
+        m_cost = std::min(m_cost + input->m_cost, kMaximumTreeCost);
         m_holdsRecursion = m_holdsRecursion || input->m_holdsRecursion;
     }
     m_isGraphable = m_isGraphable && isUsable && input->m_isGraphable;
@@ -107,10 +110,10 @@ const std::string* Expression::errorTextOfInput(const Expression* input) {
     return input == nullptr || input->isMark() ? &unableToParseText() : input->errorText();
 }
 
-void Expression::resetTraits() {
+void Expression::resetTraits(std::uint32_t ownCost) {
     m_hasError = false;
     m_height = 1;
-    m_size = 1;
+    m_cost = ownCost;
     m_leaf = Leaf::None;
     m_isGraphable = true;
     m_holdsRecursion = false;

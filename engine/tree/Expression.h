@@ -106,8 +106,6 @@ public:
 
     /// No node has more levels below it; what would be higher becomes an error.
     static constexpr std::uint32_t kMaximumHeight = 4000;
-    /// An evaluation that visits more nodes (through equations and constants) is given up as NaN.
-    static constexpr std::int64_t kMaximumVisits = 4'000'000;
 
     // What nodes ask of one another; the public face above wraps these.
 
@@ -130,7 +128,8 @@ public:
     ComplexValue constant() const { return m_constant; }
     std::uint8_t variableIndex() const { return m_variableIndex; }
     std::uint32_t height() const { return m_height; }
-    std::uint32_t size() const { return m_size; }
+    /// What evaluating the tree costs at least, in the units of EvaluationBudget.
+    std::uint32_t cost() const { return m_cost; }
     bool isConstant() const { return m_leaf == Leaf::RealConstant || m_leaf == Leaf::ComplexConstant; }
     /// The first error text found in the tree; null when there is none.
     const std::string* errorText() const { return m_hasError ? findErrorText() : nullptr; }
@@ -139,12 +138,12 @@ public:
 protected:
     explicit Expression(Kind kind = Kind::Leaf) : m_kind(kind) {}
 
-    /// Takes over what a parent inherits from an input: height, size, errors, graphability. A missing
+    /// Takes over what a parent inherits from an input: height, cost, errors, graphability. A missing
     /// input or a grouping mark in its place makes the node unreadable. It then has the constant value
     /// NaN, so that evaluation need not look for what is missing.
     void adoptTraits(const Expression* input);
-    /// Forgets what was inherited, before new inputs are adopted.
-    void resetTraits();
+    /// Forgets what was inherited, before new inputs are adopted. The node itself costs that much.
+    void resetTraits(std::uint32_t ownCost = 1);
     void setConstant(ComplexValue value);
 
     /// Asked only of a node that has an error: the text in the first of its inputs that has one.
@@ -154,7 +153,7 @@ protected:
 
     // A line holds a node a token, so these are kept small.
     ComplexValue m_constant;
-    std::uint32_t m_size = 1;
+    std::uint32_t m_cost = 1;
     std::uint16_t m_height = 1;
     Kind m_kind;
     Leaf m_leaf = Leaf::None;

@@ -1,5 +1,6 @@
 // The first pass of the parser: from the tokens of a line to its nodes.
 
+#include "engine/tree/ExpressionLeaves.h"
 #include "engine/environment/Environment.h"
 #include "engine/lines/NamedExpressionList.h"
 #include "engine/tree/BivarFunction.h"
@@ -16,6 +17,7 @@
 #include "platform/text/Log.h"
 #include "platform/text/Utf8.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace velmora {
@@ -147,8 +149,10 @@ public:
         return true;
     }
 
-    bool hasTooManyPoints() const { return m_points > 1; }
-    bool hasTooManyEs() const { return m_exponentMarks > 1; }
+    /// What is wrong with the number so far; empty when nothing is.
+    std::string_view error() const {
+        return m_points > 1 ? kTooManyDecimalPoints : m_exponentMarks > 1 ? kTooManyEs : std::string_view();
+    }
     Node number() const { return Number::newNumberWithText(m_text); }
 
 private:
@@ -165,30 +169,30 @@ private:
     bool m_lastWasE = false;
 };
 
-/// The nodes of a line, or the error that ends its parse.
-struct Leaves {
-    ExpressionArray nodes;
-    std::string_view error;
-};
-
 void logUnknown(const TokenElement& element) {
     log("failed to parse token " +
         (element.token() != nullptr ? element.token()->internalRepresentation() : element.toDisplayString()));
 }
 
-Leaves leavesOfTokens(std::span<const TokenElement> tokens) {
+} // namespace
+
+Leaves leavesOfTokens(std::span<const TokenElement> tokens, std::vector<std::size_t>* positions) {
     Leaves leaves;
     leaves.nodes.reserve(tokens.size());
-    for (std::size_t i = 0; i < tokens.size(); ++i) {
+    bool isOver = false; // a wrong number ends the parse, while every unknown token is to be logged
+    for (std::size_t i = 0; i < tokens.size() && !isOver; ++i) {
         const TokenElement& element = tokens[i];
+        const std::size_t position = i;
         Node node;
         if (startsNumber(element)) {
             NumberGatherer gatherer(*element.token());
-            while (i + 1 < tokens.size() && gatherer.accepts(tokens[i + 1])) {
+            while (gatherer.error().empty() && i + 1 < tokens.size() && gatherer.accepts(tokens[i + 1])) {
                 ++i;
-                if (gatherer.hasTooManyPoints() || gatherer.hasTooManyEs()) {
-                    return {{}, gatherer.hasTooManyPoints() ? kTooManyDecimalPoints : kTooManyEs};
-                }
+            }
+            if (!gatherer.error().empty()) {
+                leaves.error = gatherer.error();
+                leaves.errorPosition = std::min(leaves.errorPosition, i);
+                isOver = true;
             }
             node = gatherer.number();
         } else if (isSingleCharacter(element, '-') &&
@@ -202,14 +206,16 @@ Leaves leavesOfTokens(std::span<const TokenElement> tokens) {
         if (node == nullptr) {
             logUnknown(element);
             leaves.error = kUnableToParse;
+            leaves.errorPosition = std::min(leaves.errorPosition, position);
             continue;
+        }
+        if (positions != nullptr) {
+            positions->push_back(position);
         }
         leaves.nodes.push_back(std::move(node));
     }
     return leaves;
 }
-
-} // namespace
 
 std::unique_ptr<Expression> Expression::newExpressionWithToken(const TokenElement& element) {
     if (const NamedExpression* named = element.namedExpression()) {

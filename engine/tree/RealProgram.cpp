@@ -49,6 +49,9 @@ double RealProgram::valueOfOneInput(const UnivarRow& row, double a, Run& run) {
 
 double RealProgram::valueOfTwoInputs(const BivarRow& row, double a, double b, Run& run) {
     run.leftReals = run.leftReals || (row.inRealDomain != nullptr && !row.inRealDomain(a, b));
+    if (row.realSteps != nullptr && !run.budget.spend(row.realSteps(a, b))) {
+        return kNaN;
+    }
     return row.real(a, b);
 }
 

@@ -28,13 +28,13 @@ public:
 
     /// One evaluation: the variables by type, and whether a value had to leave the reals.
     struct Run {
-        Run(double x, double y, double none, bool two, EvaluationBudget* within = nullptr)
+        Run(double x, double y, double none, bool two, EvaluationBudget& within)
             : variable{x, y, none}, areTwo(two), budget(within) {}
 
         std::array<double, 3> variable;
         bool areTwo;
         bool leftReals = false;
-        EvaluationBudget* budget; ///< null for an evaluation that is not part of another
+        EvaluationBudget& budget;
         std::unique_ptr<GeneralEvaluation, GeneralEvaluationDeleter>
             general; ///< made for the first node without a step of its own
     };

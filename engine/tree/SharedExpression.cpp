@@ -21,7 +21,7 @@ ComplexValue SharedExpression::complexValue(ComplexEvaluation& evaluation) const
     if (const ComplexValue* known = evaluation.shared.find(*m_tree)) {
         return *known;
     }
-    if (!evaluation.budget.visit(*m_tree)) {
+    if (!evaluation.budget.spend(kCostOfTree * m_tree->cost())) {
         return undefinedValue();
     }
     return evaluation.shared.keep(*m_tree, complexOf(*m_tree, evaluation));

@@ -68,7 +68,7 @@ UnivarFunction::newFunctionWithToken(const Token& token, std::unique_ptr<const E
 
 void UnivarFunction::setInput(std::unique_ptr<const Expression> input) {
     m_input = std::move(input);
-    resetTraits();
+    resetTraits(m_row->cost);
     adoptTraits(m_input.get());
     foldConstantInput();
 }

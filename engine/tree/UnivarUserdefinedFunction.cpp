@@ -10,11 +10,11 @@ namespace velmora {
 namespace {
 
 ComplexValue valueOfEquation(const Expression* equation, ComplexValue z, EvaluationBudget& budget) {
-    if (equation == nullptr || !budget.call(*equation)) {
+    if (equation == nullptr || !budget.enter(*equation)) {
         return undefinedValue();
     }
-    const ComplexValue value = evaluateAt(*equation, z, &budget);
-    budget.returnFrom(*equation);
+    const ComplexValue value = evaluateAt(*equation, z, budget);
+    budget.leave(*equation);
     return value;
 }
 
@@ -36,7 +36,7 @@ std::shared_ptr<const Expression> UnivarUserdefinedFunction::equation() const {
 
 ComplexValue UnivarUserdefinedFunction::valueWithComplex(ComplexValue z) const {
     EvaluationBudget budget;
-    return valueOfEquation(equation().get(), z, budget);
+    return budget.settled(valueOfEquation(equation().get(), z, budget));
 }
 
 ComplexValue UnivarUserdefinedFunction::complexValue(ComplexEvaluation& evaluation) const {

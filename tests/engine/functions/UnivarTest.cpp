@@ -89,7 +89,7 @@ TEST(UnivarReal, isExactWhereUsersCheck) {
         {CumulativeNormal, 0, 0.5}, {CumulativeNormal, -kInfinity, 0}, {CumulativeNormal, kInfinity, 1},
         {Bell, kInfinity, 0}, {SpeedOfSound, -273.15, 0}, {Cosecant, 0, kNaN}, {Cosecant, -0.0, kNaN},
         {Cotangent, 0, kNaN}, {HyperbolicCotangent, 0, kNaN}, {HyperbolicCosecant, 0, kNaN},
-        {Sine, kInfinity, kNaN}, {Factorial, -3, kNaN},
+        {Sine, kInfinity, kNaN}, {Factorial, -3, kNaN}, {Factorial, -1, kNaN},
         {SpeedOfSound, -273.16, kNaN}, {SpeedOfSound, 1000000.5, kNaN}, {Random, kInfinity, kNaN},
         {ToFraction, 0.333333, 1.0 / 3}, {ToMixedNumber, 2.666667, 8.0 / 3},
     };

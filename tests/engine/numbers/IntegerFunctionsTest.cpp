@@ -19,13 +19,14 @@ TEST(MyMath, tellsWholeNumbersApart) {
     }
 }
 
-TEST(IntegerFunctions, followDefinitions) {
-    struct Case {
-        double (*function)(double, double);
-        double a;
-        double b;
-        double value;
-    };
+struct Case {
+    double (*function)(double, double);
+    double a;
+    double b;
+    double value;
+};
+
+TEST(IntegerFunctions, areExactForWholeNumbers) {
     // clang-format off
     const Case cases[] = {
         {gcd, 12, 18, 6}, {gcd, -12, 18, 6}, {gcd, 0, 5, 5}, {gcd, -5, 0, 5}, {gcd, 0, 0, 0},
@@ -38,14 +39,28 @@ TEST(IntegerFunctions, followDefinitions) {
         {lcm, -4, -6, 12}, {lcm, 0, 6, 0}, {lcm, 6, 0, 0}, {lcm, 4.2, 6, kNaN},
         {lcm, 0, 4.2, kNaN}, // undefined before it is 0
         {lcm, 4294967296.0, 6442450944.0, 12884901888.0}, // 2^32 and 3·2^31: 3·2^32
-        {perm, 5, 2, 20}, {perm, 5, 0, 1}, {perm, 5, 5, 120}, {perm, 2, 3, 0}, // Γ(3) / Γ(0), a pole below
+        {perm, 5, 2, 20}, {perm, 5, 0, 1}, {perm, 5, 5, 120}, {perm, 2, 3, 0}, {perm, 3, 5, 0},
+        {perm, 200, 300, 0}, // though 200! is infinite
         {perm, 1e9, 5e8, kInfinity}, // and that at once
         {perm, 1e300, 1e300, kInfinity},
         {perm, 4294967297.0, 1, 4294967297.0}, // whole numbers beyond 32 bits
         {comb, 10, 8, 45}, {comb, 5, 0, 1}, {comb, 52, 5, 2598960}, // poker hands
-        {comb, 50, 25, 126410606437752}, // OEIS A000984
+        // Pascal's triangle, added up with arbitrary-precision integers
+        {comb, 8, 3, 56}, {comb, 50, 25, 126410606437752}, {comb, 56, 28, 7648690600760440},
+        {comb, 57, 24, 7522327487513475}, {comb, 134217728, 2, 9007199187632128}, {comb, 67, 17, 3371363686069236},
+        {comb, 8, 9, 0}, {comb, 0, 4, 0}, {comb, 0, 0, 1},
         {comb, 1e9, 5e8, kInfinity}, {comb, 1e9, 1e9 - 1, 1e9}, // the short side of the symmetry
         {comb, kNaN, 1, kNaN},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        EXPECT_LE(ulpDistance(c.function(c.a, c.b), c.value), 0) << c.a << ", " << c.b;
+    }
+}
+
+TEST(IntegerFunctions, areExtendedByTheGammaFunction) {
+    // clang-format off
+    const Case cases[] = {
         // by the gamma function: computed with arbitrary-precision arithmetic, 60 digits
         {perm, 4.5, 2, 15.75}, {perm, 6.25, -1.5, 0.048754109437229694},
         {perm, 100.25, 3.5, 9652737.087744042}, {perm, 0.5, 1, 0.5}, {comb, 0.5, 1, 0.5},

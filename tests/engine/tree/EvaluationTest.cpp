@@ -226,7 +226,8 @@ TEST(Evaluation, theProgramOfALineAgreesWithItsTreeBitForBit) {
         for (const double x : {0.75, -2.0, 0.0, 1e200, kInfinity, kNaN}) {
             const ComplexValue z = x;
             const ComplexValue fast = tree->valueWithVariableValue(z);
-            GeneralEvaluation general({.byType = {z, z, z}}, nullptr);
+            EvaluationBudget budget;
+            GeneralEvaluation general({.byType = {z, z, z}}, budget);
             const ComplexValue slow = complexOf(*tree, general.evaluation);
             ASSERT_TRUE(same(fast, slow)) << line << " at " << x << ": " << fast << " is not " << slow;
             ASSERT_TRUE(std::isnan(fast.real()) || std::signbit(fast.real()) == std::signbit(slow.real()))
