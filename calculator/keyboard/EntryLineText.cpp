@@ -1,7 +1,7 @@
 #include "calculator/keyboard/EntryLineText.h"
 
+#include "calculator/keyboard/EditingMode.h"
 #include "calculator/keyboard/WrappedText.h"
-#include "calculator/model/Entering.h"
 #include "engine/lines/ExpressionList.h"
 #include "engine/lines/ExpressionWithLevelCurveHeightsList.h"
 #include "engine/lines/ExpressionWithTokenArray.h"
@@ -81,17 +81,17 @@ std::pair<int, double> distance(const WrappedText::Place& place, int line, doubl
 
 } // namespace
 
-EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, int entering,
+EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, const EditingMode& mode,
                             const ExpressionList* target, int whichEquation, const std::string& typedName) {
     EntryLineText text;
     text.line = buffer.displayStringWithCursor();
     const std::string beforeCursor = buffer.beforeCursorString();
     text.line.insert(beforeCursor.size(), typedName);
     text.beforeCursor = beforeCursor + typedName;
-    if (target && entering >= kEnteringFunction && entering <= kEnteringPolar) {
+    if (target && mode.namesSlot) {
         text.prefix = target->fullFunctionNameWithIndex(whichEquation) + "=";
     }
-    if (entering == kEnteringImpliedFunction) {
+    if (mode.showsHeights) {
         const auto* functions = dynamic_cast<const ExpressionWithLevelCurveHeightsList*>(target);
         const auto* heights = functions ? functions->levelCurveHeightsAtIndex(whichEquation) : nullptr;
         if (heights) {

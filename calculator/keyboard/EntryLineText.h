@@ -8,6 +8,7 @@ namespace velmora {
 
 class ExpressionList;
 class ExpressionWithTokenArray;
+struct EditingMode;
 
 /// What an entry line shows: a prefix such as "y1(x)=", the line with its cursor mark, and a suffix such as
 /// "= 0".
@@ -21,7 +22,7 @@ struct EntryLineText {
 
 /// The text for a buffer in an editing mode; `target` may be null, and then there is no prefix or suffix.
 /// The letters of a name being typed stand before the cursor.
-EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, int entering,
+EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, const EditingMode& mode,
                             const ExpressionList* target, int whichEquation,
                             const std::string& typedName = {});
 

@@ -1,6 +1,7 @@
 #include "calculator/keyboard/KeyTable.h"
 
 #include "calculator/keyboard/KeyboardViewController.h"
+#include "calculator/model/LineWords.h"
 
 #include <algorithm>
 #include <array>
@@ -38,35 +39,9 @@ const std::array kRows{
     KeyRow{"=", "=", run<&Controller::parenEqualsButtonPressed>, ""},
 };
 
-struct SpokenName {
-    std::string_view text;
-    std::string_view name;
-};
-constexpr std::array kSpokenNames{
-    SpokenName{"+", "plus"},
-    SpokenName{"-", "minus"},
-    SpokenName{"*", "times"},
-    SpokenName{"/", "divided by"},
-    SpokenName{"^", "to the power of"},
-    SpokenName{".", "decimal point"},
-    SpokenName{"(", "left parenthesis"},
-    SpokenName{")", "right parenthesis"},
-    SpokenName{"=", "equals"},
-    SpokenName{"=)", "equals"},
-    SpokenName{"e", "e"},
-    SpokenName{"E", "exponent of ten"},
-    SpokenName{"π", "pi"},
-    SpokenName{"θ", "theta"},
-    SpokenName{"i", "imaginary unit"},
-    SpokenName{"<", "less than"},
-    SpokenName{">", "greater than"},
-    SpokenName{"≥", "greater than or equal"},
-    SpokenName{"≤", "less than or equal"},
-};
-
 std::string spokenName(std::string_view text) {
-    const auto* found = std::ranges::find(kSpokenNames, text, &SpokenName::text);
-    return std::string(found == kSpokenNames.end() ? text : found->name);
+    const LineWord* word = lineWord(text);
+    return std::string(word && !word->spokenName.empty() ? word->spokenName : text);
 }
 
 } // namespace

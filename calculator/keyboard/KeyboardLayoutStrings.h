@@ -5,14 +5,16 @@
 
 namespace velmora {
 
+struct EditingMode;
+
 /// One character a key, in the order in which keys are dealt to the grids. Empty (no keys) for a geometry
-/// outside 0 to 4 or a mode outside 0 to 5.
-std::string_view keyboardLayoutString(int geometry, int entering, int whichKeyboard);
+/// outside 0 to 4 or a mode without keys.
+std::string_view keyboardLayoutString(int geometry, const EditingMode& mode, int whichKeyboard);
 
 /// What adjusts a layout string to the screen at hand.
 struct LayoutAdjustment {
     int geometry;
-    int entering;
+    const EditingMode& mode;
     bool iOnMainKeyboard;
     std::string variableName; ///< of the edited list; empty when it has none
 };
@@ -23,6 +25,6 @@ std::string adjustedLayoutString(std::string_view layout, const LayoutAdjustment
 
 /// The letter of the colour class of a key by its character. A character that the mode's table does not
 /// hold is a programming fault and has class "a".
-std::string colourClass(std::string_view character, int entering);
+std::string colourClass(std::string_view character, const EditingMode& mode);
 
 } // namespace velmora

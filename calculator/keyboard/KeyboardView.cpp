@@ -1,6 +1,7 @@
 #include "calculator/keyboard/KeyboardView.h"
 
 #include "calculator/history/DisplayHistoryTableViewController.h"
+#include "calculator/keyboard/EditingMode.h"
 #include "calculator/keyboard/EntryLineText.h"
 #include "calculator/keyboard/KeyTable.h"
 #include "calculator/keyboard/KeyboardLayoutStrings.h"
@@ -37,7 +38,8 @@ std::string imageNameForClass(const std::string& colourClass) {
 
 } // namespace
 
-KeyboardView::KeyboardView(KeyboardViewController& controller) : m_controller(controller) {
+KeyboardView::KeyboardView(KeyboardViewController& controller)
+    : m_controller(controller), m_mode(controller.mode()) {
     m_currentEntryLabel.record().backgroundColor = backgroundColor();
 }
 
@@ -81,10 +83,6 @@ KeyboardView::KeyboardConfiguration KeyboardView::configuration() const {
     return {model.keyboardGeometry(), model.whichKeyboard(), model.iOnMainKeyboard(), variableName()};
 }
 
-bool KeyboardView::usesSmallEntryLine() const {
-    return m_entering == kEnteringCalculatorLine || m_entering == kEnteringInequality;
-}
-
 void KeyboardView::layoutSubviews() {
     const std::vector<std::shared_ptr<Button>> buttons(m_buttons.begin(), m_buttons.end());
     if (!buttons.empty()) {
@@ -94,10 +92,10 @@ void KeyboardView::layoutSubviews() {
     m_backingLabel.backgroundColor = backgroundColor();
 
     const KeyboardSizes& sizes = sizesNow();
-    const bool isHistory = m_entering == kEnteringCalculatorLine;
+    const bool isHistory = m_mode.isCalculator();
     LabelRecord& entry = m_currentEntryLabel.record();
     entry.frame = entryLineFrame();
-    entry.fontSize = usesSmallEntryLine() ? sizes.entryFontSize : sizes.entryFontSizeEditing;
+    entry.fontSize = m_mode.hasSmallEntryLine ? sizes.entryFontSize : sizes.entryFontSizeEditing;
     entry.textColor = Color::white(1);
     entry.alignment = isHistory ? TextAlignment::Right : TextAlignment::Left;
     entry.lineCount = isHistory ? 1 : kMaximumEditingLines;
@@ -108,7 +106,7 @@ void KeyboardView::layoutSubviews() {
 }
 
 void KeyboardView::layoutTableView() {
-    if (m_entering != kEnteringCalculatorLine) {
+    if (!m_mode.isCalculator()) {
         return;
     }
     if (!m_displayTableView) {
@@ -141,7 +139,7 @@ void KeyboardView::createButtons() {
     }
     if (m_equalsButton) {
         m_equalsBackgroundImageName = m_equalsButton->appearance().backgroundImageName;
-        if (m_entering != kEnteringCalculatorLine) {
+        if (!m_mode.isCalculator()) {
             m_equalsButton->setTitleString("save");
         }
     }
@@ -153,7 +151,7 @@ void KeyboardView::createButtons() {
 void KeyboardView::setUpButton(CalculatorButton& button, const std::string& character) {
     const KeyRow row = keyRow(character);
     const std::string title = titleStringWithUnichar(character);
-    const std::string colour = colourClass(character, m_entering);
+    const std::string colour = colourClass(character, m_mode);
     KeyAppearance appearance;
     appearance.shown = true;
     appearance.colourClass = colour;
@@ -177,7 +175,7 @@ void KeyboardView::updateEqualsButton() {
     std::string title = "save";
     if (!isEmpty && !isBalanced) {
         title = ")";
-    } else if (m_entering == kEnteringCalculatorLine) {
+    } else if (m_mode.isCalculator()) {
         title = isEmpty ? "=)" : "=";
     }
     m_equalsButton->setTitleString(title);
@@ -207,8 +205,8 @@ void KeyboardView::updateDisplay() {
         return;
     }
     LabelRecord& entry = m_currentEntryLabel.record();
-    const EntryLineText text = entryLineText(*m_displayModel, m_entering, m_target, m_enteringWhichEquation,
-                                             m_controller.typedName());
+    const EntryLineText text =
+        entryLineText(*m_displayModel, m_mode, m_target, m_enteringWhichEquation, m_controller.typedName());
     entry.text = textFittedToLabel(text, entry);
     m_currentEntryLines = linesInLabel(text, entry);
     if (KeyboardScreen* screen = m_controller.screen()) {
@@ -234,7 +232,7 @@ std::shared_ptr<CalculatorButton> KeyboardView::buttonWithCharacter(const std::s
 double KeyboardView::topOfHistoryArea() const {
     const KeyboardSizes& sizes = sizesNow();
     return m_size.height - sizes.gridHeight - sizes.bottomMargin - kGridUpperMargin -
-           (usesSmallEntryLine() ? sizes.entryLineHeight : sizes.entryLineHeightEditing);
+           (m_mode.hasSmallEntryLine ? sizes.entryLineHeight : sizes.entryLineHeightEditing);
 }
 
 Rect KeyboardView::gridFrame() const {
@@ -246,32 +244,28 @@ Rect KeyboardView::gridFrame() const {
 
 Rect KeyboardView::backingLabelFrame() const {
     const KeyboardSizes& sizes = sizesNow();
-    const double y = m_entering == kEnteringCalculatorLine ? topOfHistoryArea() : 0;
-    return {0, y, m_size.width, usesSmallEntryLine() ? sizes.entryLineHeight : sizes.entryLineHeightEditing};
+    const double y = m_mode.isCalculator() ? topOfHistoryArea() : 0;
+    return {0, y, m_size.width,
+            m_mode.hasSmallEntryLine ? sizes.entryLineHeight : sizes.entryLineHeightEditing};
 }
 
 Rect KeyboardView::entryLineFrame() const {
-    return inset(backingLabelFrame(),
-                 m_entering == kEnteringCalculatorLine ? kEntrySideInset : kEntrySideInsetEditing, 0);
+    return inset(backingLabelFrame(), m_mode.isCalculator() ? kEntrySideInset : kEntrySideInsetEditing, 0);
 }
 
 Rect KeyboardView::displayTableFrame() const {
-    return m_entering == kEnteringCalculatorLine ? Rect{0, 0, m_size.width, topOfHistoryArea()} : Rect{};
+    return m_mode.isCalculator() ? Rect{0, 0, m_size.width, topOfHistoryArea()} : Rect{};
 }
 
 int KeyboardView::numberOfColumns() const {
     if (!keyboardGeometryIsWide(geometryNow())) {
         return kNarrowColumns;
     }
-    return kWideRightColumns + (m_entering == kEnteringInequality ? 5 : 4);
+    return kWideRightColumns + m_mode.wideLeftColumns;
 }
 
 int KeyboardView::numberOfRows() const {
-    if (keyboardGeometryIsWide(geometryNow())) {
-        return kWideRows;
-    }
-    const bool hasExtraRow = m_entering == kEnteringInequality || m_entering == kEnteringImpliedFunction;
-    return hasExtraRow ? 7 : 6;
+    return keyboardGeometryIsWide(geometryNow()) ? kWideRows : m_mode.narrowRows;
 }
 
 ButtonLayout KeyboardView::newButtonLayout() const {
@@ -284,7 +278,7 @@ ButtonLayout KeyboardView::newButtonLayout() const {
 
 ButtonLayout KeyboardView::newIPhoneButtonLayout() const {
     ButtonGrid grid(gridFrame(), numberOfColumns(), numberOfRows(), 2, 2);
-    grid.setHeightOfButtonInLowerRight(m_entering == kEnteringImpliedFunction ? 3 : 2);
+    grid.setHeightOfButtonInLowerRight(m_mode.narrowRowsOfTallKey);
     ButtonLayout layout;
     layout.addGrid(grid);
     return layout;
@@ -312,20 +306,12 @@ int KeyboardView::tokenGapAtPoint(Point point) const {
     if (!m_displayModel) {
         return 0;
     }
-    return velmora::tokenGapAtPoint(
-        point, m_currentEntryLabel.record(),
-        entryLineText(*m_displayModel, m_entering, m_target, m_enteringWhichEquation), *m_displayModel);
+    return velmora::tokenGapAtPoint(point, m_currentEntryLabel.record(),
+                                    entryLineText(*m_displayModel, m_mode, m_target, m_enteringWhichEquation),
+                                    *m_displayModel);
 }
 
-std::string KeyboardView::variableName() const {
-    if (m_entering == kEnteringInequality) {
-        return "x";
-    }
-    if (m_target) {
-        return m_target->variableNameString();
-    }
-    return m_entering == kEnteringParametric ? "t" : "x";
-}
+std::string KeyboardView::variableName() const { return keyVariable(m_mode, m_target); }
 
 std::string KeyboardView::decimalButtonTitle() const {
     const bool sharesKey = keyboardGeometryIsNarrow(geometryNow()) && Model::m().iOnMainKeyboard();
@@ -336,9 +322,7 @@ std::string KeyboardView::titleStringWithUnichar(const std::string& character) c
     if (character == ".") {
         return decimalButtonTitle();
     }
-    const bool sharesPi = m_entering == kEnteringFunction || m_entering == kEnteringParametric ||
-                          m_entering == kEnteringInequality;
-    if (character == "π" && sharesPi && keyboardGeometryIsNarrow(geometryNow())) {
+    if (character == "π" && m_mode.variableSharesKeyOfPi && keyboardGeometryIsNarrow(geometryNow())) {
         const std::string variable = variableName();
         // A list without a variable, such as the constants, leaves the key to π alone.
         return variable.empty() ? character : variable + " " + character;
@@ -349,8 +333,8 @@ std::string KeyboardView::titleStringWithUnichar(const std::string& character) c
 std::string KeyboardView::buttonLayoutString() const {
     const Model& model = Model::m();
     const int geometry = model.keyboardGeometry();
-    return adjustedLayoutString(keyboardLayoutString(geometry, m_entering, model.whichKeyboard()),
-                                {geometry, m_entering, model.iOnMainKeyboard(), variableName()});
+    return adjustedLayoutString(keyboardLayoutString(geometry, m_mode, model.whichKeyboard()),
+                                {geometry, m_mode, model.iOnMainKeyboard(), variableName()});
 }
 
 } // namespace velmora

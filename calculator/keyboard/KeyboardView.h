@@ -16,6 +16,7 @@ namespace velmora {
 class DisplayHistoryTableViewController;
 class ExpressionList;
 class ExpressionWithTokenArray;
+struct EditingMode;
 class KeyboardViewController;
 
 /// The calculator screen's contents: the keys, the entry line and, in mode 0, the place of the history
@@ -26,7 +27,6 @@ public:
     ~KeyboardView();
 
     // Copies of the controller's.
-    void setEntering(int entering) { m_entering = entering; }
     void setTarget(ExpressionList* target) { m_target = target; }
     void setEnteringWhichEquation(int index) { m_enteringWhichEquation = index; }
     void setDisplayModel(ExpressionWithTokenArray* buffer);
@@ -97,14 +97,13 @@ private:
 
     KeyboardConfiguration configuration() const;
     std::string variableName() const;
-    bool usesSmallEntryLine() const;
     ButtonLayout newButtonLayout() const;
     ButtonLayout newIPhoneButtonLayout() const;
     ButtonLayout newWideButtonLayout() const;
     void setUpButton(CalculatorButton& button, const std::string& character);
 
     KeyboardViewController& m_controller;
-    int m_entering = 0;
+    const EditingMode& m_mode;
     ExpressionList* m_target = nullptr;
     int m_enteringWhichEquation = 0;
     ExpressionWithTokenArray* m_displayModel = nullptr;

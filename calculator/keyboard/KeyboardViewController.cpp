@@ -1,14 +1,20 @@
 #include "calculator/keyboard/KeyboardViewController.h"
 
 #include "calculator/history/DisplayHistoryTableViewController.h"
+#include "calculator/keyboard/HardwareKeyboard.h"
 #include "calculator/keyboard/KeyboardScreen.h"
+#include "calculator/keyboard/LineStoring.h"
+#include "calculator/keyboard/OpenedScreens.h"
 #include "calculator/model/InequalityTokens.h"
 #include "calculator/model/Model.h"
+#include "engine/tree/Number.h"
 #include "platform/events/ActionScope.h"
+#include "platform/files/KeyedArchive.h"
 #include "platform/machine/StaticObjectManager.h"
 #include "platform/screens/NavigationController.h"
-#include "platform/text/Utf8.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace velmora {
@@ -19,14 +25,15 @@ constexpr int kClearsThatEraseTheHistory = 3;
 
 } // namespace
 
-KeyboardViewController::KeyboardViewController(int entering) : m_entering(entering) {
+KeyboardViewController::KeyboardViewController(int entering)
+    : m_entering(entering), m_mode(editingMode(entering)) {
     setTabImage("alpha image.png");
-    if (m_entering == kEnteringInequality) {
-        m_displayModel = std::make_unique<InequalityTokens>();
+    if (m_mode.tallKey == TallKeyAction::StoresInequality) {
+        m_editor.exchangeLine(std::make_unique<InequalityTokens>());
     } else {
-        m_displayModel = std::make_unique<ExpressionWithTokenArray>();
+        m_editor.exchangeLine(std::make_unique<ExpressionWithTokenArray>());
     }
-    if (m_entering == kEnteringCalculatorLine) {
+    if (m_mode.isCalculator()) {
         setHidesNavigationBar(true);
         m_table = std::make_unique<DisplayHistoryTableViewController>();
         m_historySubscription = NotificationCentre::defaultCentre().addObserver(
@@ -53,6 +60,7 @@ KeyboardViewController::~KeyboardViewController() {
 
 void KeyboardViewController::setTarget(ExpressionList* target) {
     m_target = target;
+    m_editor.setTarget(target);
     if (m_view) {
         m_view->setTarget(target);
         m_view->createSubviewsIfNeeded();
@@ -69,17 +77,16 @@ void KeyboardViewController::setEnteringWhichEquation(int index) {
 }
 
 void KeyboardViewController::setDisplayModel(std::unique_ptr<ExpressionWithTokenArray> buffer) {
-    const auto former = std::exchange(m_displayModel, std::move(buffer));
+    const auto former = m_editor.exchangeLine(std::move(buffer)); // the view still shows it
     endPressCounts();
-    m_typedName.clear();
     if (m_view) {
-        m_view->setDisplayModel(m_displayModel.get());
+        m_view->setDisplayModel(displayModel());
     }
     updateDisplay();
 }
 
 void KeyboardViewController::createDisplayModel() {
-    if (!m_displayModel && m_entering != kEnteringInequality) {
+    if (!displayModel() && m_mode.tallKey != TallKeyAction::StoresInequality) {
         setDisplayModel(std::make_unique<ExpressionWithTokenArray>());
     }
 }
@@ -100,14 +107,14 @@ KeyboardView& KeyboardViewController::keyboardView() {
 
 void KeyboardViewController::viewDidLoad() {
     m_view = std::make_unique<KeyboardView>(*this);
-    m_view->setEntering(m_entering);
     m_view->setTarget(m_target);
     m_view->setEnteringWhichEquation(m_enteringWhichEquation);
-    m_view->setDisplayModel(m_displayModel.get());
+    m_view->setDisplayModel(displayModel());
     m_view->setDisplayTableView(m_table.get());
     CalculatorLabel& label = m_view->currentEntryLabel();
     label.onUpdate = [this](bool edited) {
         if (edited) {
+            m_editor.lineChangedElsewhere();
             endPressCounts();
         }
         updateDisplay();
@@ -124,7 +131,7 @@ void KeyboardViewController::viewDidLoad() {
 
 void KeyboardViewController::viewWillAppear(bool animated) {
     ViewController::viewWillAppear(animated);
-    if (m_entering == kEnteringCalculatorLine) {
+    if (m_mode.isCalculator()) {
         Model::m().setUnitConverterIsPushed(false);
     }
     // Settings may have changed meanwhile: keys, fonts, and how results are written.
@@ -185,10 +192,14 @@ void KeyboardViewController::buttonPressedPre(CalculatorButton& button) {
         m_lastButtonPressed->reset();
     }
     m_previousButtonPressed = std::exchange(m_lastButtonPressed, button.shared_from_this());
+    m_editor.beginStep();
     playClick();
 }
 
-void KeyboardViewController::buttonPressedPost(CalculatorButton& /*button*/) { updateDisplay(); }
+void KeyboardViewController::buttonPressedPost(CalculatorButton& /*button*/) {
+    m_editor.endStep();
+    updateDisplay();
+}
 
 void KeyboardViewController::playClick() const {
     const Model& model = Model::m();
@@ -220,32 +231,19 @@ void KeyboardViewController::buttonPressed(CalculatorButton& button) {
     }
 }
 
-void KeyboardViewController::deleteAtCursor() {
-    if (!m_typedName.empty()) {
-        m_typedName = dropLast(m_typedName);
-    } else if (m_displayModel) {
-        m_displayModel->deleteAtCursor();
+void KeyboardViewController::buttonPressedWithText(const std::string& text) {
+    if (!m_editor.extendName(text) && finishTypedName()) {
+        m_editor.insertText(text);
     }
 }
 
-void KeyboardViewController::leftButtonPressed() {
-    if (m_displayModel) {
-        m_displayModel->moveCursor(-1);
-    }
-}
+void KeyboardViewController::deleteAtCursor() { m_editor.deleteBackward(); }
 
-void KeyboardViewController::rightButtonPressed() {
-    if (m_displayModel) {
-        m_displayModel->moveCursor(1);
-    }
-}
+void KeyboardViewController::leftButtonPressed() { m_editor.moveCursor(-1); }
 
-void KeyboardViewController::clearDisplayData() {
-    m_typedName.clear();
-    if (m_displayModel) {
-        m_displayModel->reset();
-    }
-}
+void KeyboardViewController::rightButtonPressed() { m_editor.moveCursor(1); }
+
+void KeyboardViewController::clearDisplayData() { m_editor.clear(); }
 
 void KeyboardViewController::clearButtonPressed() {
     if (m_previousButtonPressed != m_lastButtonPressed) {
@@ -253,7 +251,7 @@ void KeyboardViewController::clearButtonPressed() {
     }
     if (++m_nClears == kClearsThatEraseTheHistory) {
         // An editor has no history on screen, so clearing its line often must not erase one.
-        if (m_entering == kEnteringCalculatorLine) {
+        if (m_mode.isCalculator()) {
             Model::m().history().reset();
             reloadHistory();
         }
@@ -276,10 +274,79 @@ void KeyboardViewController::sqrtButtonPressed() {
 }
 
 void KeyboardViewController::inequalityButtonPressed(CalculatorButton& button) {
-    if (m_displayModel) {
-        m_displayModel->setInequalityTypeWithToken(Token(button.titleString()));
+    if (displayModel()) {
+        displayModel()->setInequalityTypeWithToken(Token(button.titleString()));
     }
 }
+
+// Screens that keys open.
+
+void KeyboardViewController::functionButtonPressed() {
+    // A list without a variable, such as the constants, is edited in the same mode but defines none.
+    const bool hasVariable = !m_target || !m_target->variableNameString().empty();
+    openFunctionList(navigationController(), "Functions", m_mode.functionsMayUseVariable && hasVariable);
+}
+
+void KeyboardViewController::constantButtonPressed() {
+    openFunctionList(navigationController(), "Constants", false);
+}
+
+void KeyboardViewController::trigButtonPressed() {
+    openFunctionList(navigationController(), "TrigFunctions", false);
+}
+
+void KeyboardViewController::unitsButtonPressed() {
+    if (openUnitConverter(navigationController()) && m_mode.isCalculator()) {
+        Model::m().setUnitConverterIsPushed(true);
+    }
+}
+
+// Choices that come back from them, and taps on the history. Nothing that was chosen is lost, nor are letters
+// that wait in the line: those that spell no name yet go on waiting behind it, with a notice.
+
+void KeyboardViewController::functionSelected(const std::string& text) {
+    edit([&](LineEditor& editor) {
+        const std::string reason = editor.finishName();
+        editor.insertText(text);
+        return reason;
+    });
+}
+
+void KeyboardViewController::namedExpressionSelected(TokenElement token) {
+    edit([&](LineEditor& editor) {
+        const std::string reason = editor.finishName();
+        editor.insertElements({std::move(token)});
+        return reason;
+    });
+}
+
+void KeyboardViewController::numberEntered(ComplexValue value) {
+    namedExpressionSelected(std::shared_ptr<const Expression>(std::make_shared<Number>(value)));
+}
+
+void KeyboardViewController::insertANS() {
+    m_editor.insertLastAnswer();
+    updateDisplay();
+}
+
+void KeyboardViewController::displayTableViewButtonPressed(const Notification& notification) {
+    const KeyedUnarchiver info(notification.userInfo);
+    const auto row = info.integer("row");
+    if (!row || !finishTypedName()) {
+        return;
+    }
+    endPressCounts();
+    const int index = static_cast<int>(*row) - m_table->nTipCells();
+    const ExpressionWithTokenArray* entry = Model::m().history().entryAtIndex(index);
+    if (entry && info.boolean("left").value_or(false)) {
+        m_editor.insertElements(entry->tokenArray());
+    } else if (entry) {
+        numberEntered(entry->resultValue());
+    }
+    updateDisplay();
+}
+
+// The tall key.
 
 void KeyboardViewController::parenEqualsButtonPressed(CalculatorButton& button) {
     if (button.titleString() == ")") {
@@ -289,39 +356,39 @@ void KeyboardViewController::parenEqualsButtonPressed(CalculatorButton& button) 
     }
 }
 
-// The tall key.
-
 void KeyboardViewController::equalsButtonPressed() {
     // Saving closes the screen, which must outlive this call.
     const ActionScope action;
-    if (!m_displayModel) {
+    const ExpressionWithTokenArray* line = displayModel();
+    if (!line) {
         return;
     }
-    switch (m_entering) {
-    case kEnteringCalculatorLine:
-        if (m_displayModel->count() == 0) {
+    bool isStored = false;
+    switch (m_mode.tallKey) {
+    case TallKeyAction::AppendsToHistory:
+        if (line->count() == 0) {
             return;
         }
         appendLineToHistory();
         break;
-    case kEnteringInequality:
-        saveInequality();
+    case TallKeyAction::StoresInequality:
+        isStored = storeInequality(*line, m_enteringWhichEquation);
         break;
-    default:
-        saveEquation();
+    case TallKeyAction::StoresEquation:
+        isStored = storeEquation(*line, m_target, m_enteringWhichEquation);
         break;
+    }
+    if (isStored) {
+        leaveScreen();
     }
     scrollHistoryToEnd();
     updateDisplay();
 }
 
 void KeyboardViewController::appendLineToHistory() {
-    ExpressionList& history = Model::m().history();
-    history.addExpressionTokenArray(m_displayModel->tokenArray());
-    if (ExpressionWithTokenArray* row = history.entryAtIndex(history.nExpressions() - 1)) {
-        row->keepResult();
-    }
-    m_displayModel->reset();
+    appendToHistory(*displayModel());
+    m_editor.startNewLine();
+    m_recall.forget();
     reloadHistory();
     scrollHistoryToEnd();
 }
@@ -329,6 +396,97 @@ void KeyboardViewController::appendLineToHistory() {
 void KeyboardViewController::leaveScreen() {
     if (NavigationController* stack = navigationController()) {
         stack->pop(true);
+    }
+}
+
+// Other inputs.
+
+void KeyboardViewController::edit(const std::function<std::string(LineEditor&)>& change) {
+    endPressCounts();
+    playClick();
+    std::string reason;
+    {
+        const LineStepScope step(m_editor);
+        reason = change(m_editor);
+    }
+    updateDisplay();
+    showNotice(reason);
+}
+
+void KeyboardViewController::editBehindNames(const std::function<void(LineEditor&)>& change) {
+    edit([&](LineEditor& editor) {
+        std::string reason = editor.finishName();
+        if (reason.empty()) {
+            change(editor);
+        }
+        return reason;
+    });
+}
+
+bool KeyboardViewController::hardwareKey(std::string_view key) {
+    const ActionScope action;
+    loadViewIfNeeded();
+    return HardwareKeyboard(*this).press(key);
+}
+
+void KeyboardViewController::undo() {
+    edit([](LineEditor& editor) {
+        return editor.undo() ? std::string() : "There is nothing to undo in this line.";
+    });
+}
+
+void KeyboardViewController::redo() {
+    edit([](LineEditor& editor) {
+        return editor.redo() ? std::string() : "There is nothing to redo in this line.";
+    });
+}
+
+bool KeyboardViewController::recallLine(int direction) {
+    if (!m_mode.isCalculator() || !displayModel()) {
+        return false;
+    }
+    if (const auto line = m_recall.move(direction, Model::m().history(),
+                                        {displayModel()->tokenArray(), m_editor.place()})) {
+        edit([&](LineEditor& editor) {
+            editor.replaceWith(line->tokens, line->place);
+            return std::string();
+        });
+    }
+    return true;
+}
+
+bool KeyboardViewController::finishTypedName() {
+    const std::string reason = m_editor.finishName();
+    updateDisplay();
+    showNotice(reason);
+    return reason.empty();
+}
+
+bool KeyboardViewController::isReadyForPress(const CalculatorButton& button) {
+    constexpr std::array<std::string_view, 3> kActOnTypedName{"clr", "del", "("};
+    const std::string title = button.titleString();
+    const bool isDigit = title.size() == 1 && title[0] >= '0' && title[0] <= '9';
+    return isDigit || std::ranges::find(kActOnTypedName, title) != kActOnTypedName.end() || finishTypedName();
+}
+
+void KeyboardViewController::cursorTappedAt(int gap) {
+    endPressCounts();
+    if (finishTypedName()) {
+        m_editor.moveCursorTo(gap);
+    }
+    updateDisplay();
+}
+
+void KeyboardViewController::entryLineTapped(Point point) {
+    KeyboardView& view = keyboardView();
+    if (!view.currentEntryLabel().tapped() && finishTypedName()) {
+        cursorTappedAt(view.tokenGapAtPoint(point));
+    }
+}
+
+void KeyboardViewController::showNotice(const std::string& text) const {
+    if (m_screen && !text.empty()) {
+        m_screen->showNotice(text);
     }
 }
 

@@ -1,18 +1,18 @@
 #pragma once
 
+#include "calculator/history/HistoryRecall.h"
+#include "calculator/keyboard/EditingMode.h"
 #include "calculator/keyboard/KeyboardView.h"
-#include "calculator/keyboard/TypeableNames.h"
-#include "calculator/model/Entering.h"
-#include "engine/lines/ExpressionWithTokenArray.h"
-#include "engine/lines/NamedExpression.h"
+#include "calculator/keyboard/LineEditor.h"
+#include "engine/lines/TokenElement.h"
 #include "engine/numbers/ComplexValue.h"
 #include "platform/events/NotificationCentre.h"
 #include "platform/screens/ViewController.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace velmora {
 
@@ -21,9 +21,9 @@ class ExpressionList;
 class FunctionListScreen;
 class KeyboardScreen;
 
-/// The logic behind every keyboard screen: turns key presses into edits of a line, evaluates it or stores it
-/// as an equation. Mode 0 is the calculator itself; the other modes are pushed by the equation editors and
-/// leave by themselves when they have saved.
+/// The logic behind every keyboard screen: frames the presses of keys, lets its LineEditor edit the line, and
+/// evaluates or stores it. Mode 0 is the calculator itself; the other modes are pushed by the equation
+/// editors and leave by themselves when they have saved.
 class KeyboardViewController final : public ViewController {
 public:
     explicit KeyboardViewController(int entering = kEnteringCalculatorLine);
@@ -32,6 +32,7 @@ public:
     std::string className() const override { return "KeyboardViewController"; }
     std::string qmlFile() const override { return "KeyboardView.qml"; }
 
+    const EditingMode& mode() const { return m_mode; }
     int entering() const { return m_entering; }
     /// The list being edited (modes 1 to 3 and 5); not owned, null for none.
     ExpressionList* target() const { return m_target; }
@@ -39,7 +40,7 @@ public:
     int enteringWhichEquation() const { return m_enteringWhichEquation; }
     void setEnteringWhichEquation(int index);
     /// The line being edited; null only after setDisplayModel(nullptr).
-    ExpressionWithTokenArray* displayModel() const { return m_displayModel.get(); }
+    ExpressionWithTokenArray* displayModel() const { return m_editor.line(); }
     void setDisplayModel(std::unique_ptr<ExpressionWithTokenArray> buffer);
     /// Makes an empty line when there is none, except in mode 4, whose editor hands in its own.
     void createDisplayModel();
@@ -84,15 +85,25 @@ public:
 
     // From other inputs than the keys on screen.
 
-    /// A key of a hardware keyboard: a name or the text it produces, see HardwareKeys.h. It presses the key
-    /// on screen of the same meaning; of a key with several titles it types the one named. Letters gather to
-    /// the name of a function, variable or constant. False when it means nothing here, so that the key can
-    /// be left to others.
+    LineEditor& editor() { return m_editor; }
+    /// An edit by another input: one step of the line, which ends the series of presses. The text it returns
+    /// is shown as a notice, unless it is empty.
+    void edit(const std::function<std::string(LineEditor&)>& change);
+    /// An edit that needs letters still waiting to be read first. With letters that cannot be read nothing
+    /// is changed, and a notice says why.
+    void editBehindNames(const std::function<void(LineEditor&)>& change);
+    /// A key of a hardware keyboard, see HardwareKeyboard.
     bool hardwareKey(std::string_view key);
-    /// The letters typed so far of a name that is not complete yet; they stand in the line at the cursor.
-    const std::string& typedName() const { return m_typedName; }
+    /// Takes the last edit of the line back, or makes it again.
+    void undo();
+    void redo();
+    /// Shows an earlier (-1) or later (1) line of the history for editing; past the latest comes what was
+    /// typed before. False in the editing modes, which have no history.
+    bool recallLine(int direction);
+    /// The characters typed so far that are no tokens yet; they stand in the line at the cursor.
+    const std::string& typedName() const { return m_editor.typedName(); }
     /// Puts a name that is complete into the line, as every other input does before it acts. False, with a
-    /// notice and nothing changed, when the letters are only the start of a name.
+    /// notice and nothing changed, when the letters are no name.
     bool finishTypedName();
     /// Whether a press of the key can be acted on now; tells why when it cannot.
     bool isReadyForPress(const CalculatorButton& button);
@@ -115,39 +126,22 @@ public:
 private:
     void displayTableViewButtonPressed(const Notification& notification);
     void endPressCounts();
-    void insertText(const std::string& text);
-    void insertElement(TokenElement token);
     void playClick() const;
-    void typeWithoutKey(const std::string& text);
-    bool typeHardwareText(const std::string& text);
-    bool pressKeyOfCharacter(const std::string& character);
-    bool editByHardware(void (KeyboardViewController::*edit)());
-    void typeLetter(const std::string& letter);
-    bool continueTypedName(const std::string& text);
-    bool extendTypedName(const std::string& text);
-    void insertTypedNames(const std::vector<std::string>& texts);
-    TypeableNames typeableNames() const;
-    std::vector<std::string> definedVariables() const;
     void showNotice(const std::string& text) const;
-    void moveCursorHome();
-    void moveCursorToEnd();
-    void deleteForward();
     void appendLineToHistory();
-    void saveInequality();
-    void saveEquation();
     void leaveScreen();
     void scrollHistoryToEnd();
-    void openList(const std::string& listName, bool variableIsDefined);
     void rebuildSubviews(bool always);
 
     int m_entering;
     ExpressionList* m_target = nullptr;
     int m_enteringWhichEquation = 0;
-    std::unique_ptr<ExpressionWithTokenArray> m_displayModel;
+    const EditingMode& m_mode;
+    LineEditor m_editor{m_mode};
+    HistoryRecall m_recall;
     std::shared_ptr<CalculatorButton> m_lastButtonPressed;
     std::shared_ptr<CalculatorButton> m_previousButtonPressed;
     int m_nClears = 0;
-    std::string m_typedName;
     std::unique_ptr<DisplayHistoryTableViewController> m_table;
     std::unique_ptr<KeyboardView> m_view;
     KeyboardScreen* m_screen = nullptr;

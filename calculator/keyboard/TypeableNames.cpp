@@ -1,9 +1,11 @@
 #include "calculator/keyboard/TypeableNames.h"
 
+#include "calculator/model/LineWords.h"
 #include "engine/functions/BivarTable.h"
 #include "engine/functions/UnivarTable.h"
 #include "engine/lines/NamedExpressionList.h"
 #include "engine/tree/TriFunction.h"
+#include "platform/text/Utf8.h"
 
 #include <algorithm>
 
@@ -11,20 +13,45 @@ namespace velmora {
 
 namespace {
 
-char lowerCase(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+constexpr std::size_t kOfferedNames = 4;
+constexpr std::size_t kLongestQuotation = 24;
+
+std::string inQuotes(std::string_view text) {
+    const std::string_view start = takeFirst(text, kLongestQuotation);
+    return "“" + std::string(start) + (start.size() < text.size() ? "…" : "") + "”";
 }
 
-bool matches(std::string_view typed, std::string_view name) {
-    return name.size() == 1 ? typed == name : std::ranges::equal(typed, name, {}, lowerCase, lowerCase);
+/// How many characters of a name the text begins with; a name of one character counts in its case alone.
+std::size_t lengthOfCommonStart(std::string_view typed, std::string_view name) {
+    if (name.size() == 1) {
+        return typed.starts_with(name) ? 1 : 0;
+    }
+    std::size_t length = 0;
+    while (length < std::min(typed.size(), name.size()) &&
+           isSameInAnyCase(typed.substr(length, 1), name.substr(length, 1))) {
+        ++length;
+    }
+    return length;
+}
+
+bool isLetter(std::string_view character) {
+    const char first = character.empty() ? ' ' : character.front();
+    const bool isLatin = (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z');
+    return isLatin || character.size() > 1;
+}
+
+std::string listed(const std::vector<std::string>& texts) {
+    std::string list;
+    for (const std::string& text : texts) {
+        list += (list.empty() ? "" : " and ") + inQuotes(text);
+    }
+    return list;
 }
 
 } // namespace
 
-TypeableNames::TypeableNames(const Context& context) {
-    for (const std::string& variable : context.variables) {
-        add(variable, variable);
-    }
+TypeableNames::TypeableNames(const Context& context) : m_variables(context.variables) {
+    addWords(context);
     addFunctions(!context.variables.empty());
     for (int i = 0; context.equations && i < context.equations->nExpressions(); ++i) {
         const std::string call = context.equations->internalRepresentationWithIndex(i) + "(";
@@ -36,21 +63,29 @@ TypeableNames::TypeableNames(const Context& context) {
             add(context.constants->fullFunctionNameWithIndex(i), "@k" + number);
         }
     }
-    if (context.hasLastAnswer) {
-        add("ans", "ans");
-    }
-    add("pi", "π");
     // What may stand behind a letter that could have begun a longer name: "e2", "x(".
-    for (const char* single : {"e", "E", "i", "(", "0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}) {
+    for (const char* single : {"(", "0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}) {
         add(single, single);
     }
     std::ranges::stable_sort(m_names, std::ranges::greater(),
                              [](const Name& name) { return name.typed.size(); });
 }
 
-void TypeableNames::add(std::string_view typed, std::string_view inserted) {
+void TypeableNames::add(std::string_view typed, std::string_view inserted, bool isMissingVariable) {
     if (!typed.empty()) {
-        m_names.push_back({std::string(typed), std::string(inserted)});
+        m_names.push_back({std::string(typed), std::string(inserted), isMissingVariable});
+    }
+}
+
+void TypeableNames::addWords(const Context& context) {
+    for (const LineWord& word : lineWords()) {
+        const bool isVariable = word.kind == LineWord::Kind::Variable;
+        const bool isMissing = isVariable && std::ranges::count(context.variables, word.token) == 0;
+        if (isVariable || word.kind == LineWord::Kind::Value ||
+            (word.kind == LineWord::Kind::LastAnswer && context.hasLastAnswer)) {
+            add(word.token, word.token, isMissing);
+            add(word.spelling, word.token, isMissing);
+        }
     }
 }
 
@@ -83,7 +118,8 @@ const TypeableNames::Name* TypeableNames::longestNameAt(std::string_view typed,
             break;
         }
         // The spelling as it stands goes before another case of it: "Im(" before "im(".
-        if (matches(part, name.typed) && isDivisible[start + part.size()] && (!found || part == name.typed)) {
+        if (!name.isMissingVariable && spells(part, name.typed) && isDivisible[start + part.size()] &&
+            (!found || part == name.typed)) {
             found = &name;
         }
     }
@@ -109,23 +145,94 @@ std::optional<std::vector<std::string>> TypeableNames::insertedTexts(std::string
     return texts;
 }
 
-std::vector<std::string> TypeableNames::continuations(std::string_view typed) const {
-    std::vector<std::string> found;
+std::vector<bool> TypeableNames::readableStarts(std::string_view typed) const {
+    std::vector<bool> isReadable(typed.size() + 1, false);
+    isReadable[0] = true;
     for (std::size_t start = 0; start < typed.size(); ++start) {
-        if (start > 0 && !insertedTexts(typed.substr(0, start))) {
-            continue;
-        }
-        const std::string_view part = typed.substr(start);
         for (const Name& name : m_names) {
-            if (name.typed.size() > part.size() &&
-                std::ranges::equal(part, std::string_view(name.typed).substr(0, part.size()), {}, lowerCase,
-                                   lowerCase)) {
-                found.push_back(name.typed);
+            const std::string_view part = typed.substr(start, name.typed.size());
+            if (isReadable[start] && !name.isMissingVariable && spells(part, name.typed)) {
+                isReadable[start + part.size()] = true;
             }
         }
     }
-    std::ranges::stable_sort(found, {}, &std::string::size);
+    return isReadable;
+}
+
+std::vector<const TypeableNames::Name*> TypeableNames::continuations(std::string_view typed) const {
+    const std::vector<bool> isReadable = readableStarts(typed);
+    const std::size_t longest = m_names.front().typed.size();
+    std::vector<const Name*> found;
+    // A name that goes on behind the text began at most its own length before the end.
+    for (std::size_t start = typed.size() - std::min(typed.size(), longest); start < typed.size(); ++start) {
+        const std::string_view part = typed.substr(start);
+        for (const Name& name : m_names) {
+            if (isReadable[start] && name.typed.size() > part.size() &&
+                lengthOfCommonStart(part, name.typed) == part.size()) {
+                found.push_back(&name);
+            }
+        }
+    }
+    std::ranges::stable_sort(found, {}, [](const Name* name) { return name->typed.size(); });
     return found;
+}
+
+bool TypeableNames::canContinue(std::string_view typed) const { return !continuations(typed).empty(); }
+
+std::string_view TypeableNames::withoutReadableStart(std::string_view typed) const {
+    const std::vector<bool> isReadable = readableStarts(typed);
+    std::size_t start = typed.size() - 1;
+    while (!isReadable[start]) {
+        --start; // the empty start is readable
+    }
+    return typed.substr(start);
+}
+
+const TypeableNames::Name* TypeableNames::missingVariableAtStart(std::string_view typed) const {
+    const Name* missing = nullptr;
+    std::size_t longest = 0; // what any other name has in common with the text
+    for (const Name& name : m_names) {
+        const std::size_t common = lengthOfCommonStart(typed, name.typed);
+        if (!name.isMissingVariable) {
+            longest = std::max(longest, common);
+        } else if (common == name.typed.size() && (!missing || common > missing->typed.size())) {
+            missing = &name;
+        }
+    }
+    return missing && missing->typed.size() >= longest ? missing : nullptr;
+}
+
+std::string TypeableNames::reasonAgainst(std::string_view typed) const {
+    if (typed.empty()) {
+        return {};
+    }
+    const std::string_view rest = withoutReadableStart(typed);
+    std::vector<std::string> offered;
+    for (const Name* name : continuations(rest)) {
+        if (!name->isMissingVariable) {
+            offered.push_back(name->typed);
+        }
+    }
+    if (const Name* missing = missingVariableAtStart(rest); missing && rest == missing->typed) {
+        offered.clear();
+    }
+    if (!offered.empty()) {
+        std::string list;
+        for (std::size_t i = 0; i < std::min(offered.size(), kOfferedNames); ++i) {
+            list += (i == 0 ? "" : ", ") + offered[i];
+        }
+        return inQuotes(rest) + " is only the start of " + list +
+               (offered.size() > kOfferedNames ? ", …" : "");
+    }
+    if (const Name* missing = missingVariableAtStart(rest)) {
+        return inQuotes(missing->typed) + " is no variable here. " +
+               (m_variables.empty() ? "This line has none." : "This editor has " + listed(m_variables) + ".");
+    }
+    if (isLetter(firstCodePoint(rest))) {
+        return "No function, constant or variable here begins with " + inQuotes(rest) + ".";
+    }
+    return rest.starts_with(' ') ? "A blank cannot stand inside a number or a name."
+                                 : inQuotes(firstCodePoint(rest)) + " cannot be read here.";
 }
 
 } // namespace velmora

@@ -29,22 +29,30 @@ public:
     /// "π" and "sin(" for "2pisin(". Longer names come first, so "asin(" is no product. Nothing when a part
     /// of the typed text is no name.
     std::optional<std::vector<std::string>> insertedTexts(std::string_view typed) const;
-    /// Whether further characters can complete a name at the end of the typed text.
-    bool canContinue(std::string_view typed) const { return !continuations(typed).empty(); }
-    /// The names that the end of the typed text may become, shortest first.
-    std::vector<std::string> continuations(std::string_view typed) const;
+    /// Whether further characters can complete a name at the end of the typed text. The name of a variable
+    /// that the line lacks counts, so that it is refused as a whole.
+    bool canContinue(std::string_view typed) const;
+    /// Why text that is no row of names is none, for the user.
+    std::string reasonAgainst(std::string_view typed) const;
 
 private:
     struct Name {
         std::string typed;
         std::string inserted;
+        bool isMissingVariable; ///< of other lines
     };
 
-    void add(std::string_view typed, std::string_view inserted);
+    void add(std::string_view typed, std::string_view inserted, bool isMissingVariable = false);
+    void addWords(const Context& context);
     void addFunctions(bool hasVariable);
     const Name* longestNameAt(std::string_view typed, const std::vector<bool>& isDivisible,
                               std::size_t start) const;
+    std::vector<bool> readableStarts(std::string_view typed) const;
+    std::vector<const Name*> continuations(std::string_view typed) const;
+    std::string_view withoutReadableStart(std::string_view typed) const;
+    const Name* missingVariableAtStart(std::string_view typed) const;
 
+    std::vector<std::string> m_variables;
     std::vector<Name> m_names; // the longest first
 };
 

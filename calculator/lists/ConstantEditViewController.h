@@ -40,9 +40,4 @@ private:
     Signal<> m_contentsChanged;
 };
 
-/// Why a text cannot be the name of the constant in that slot; empty when it can. A name begins with neither
-/// a digit nor a point, holds no blank, bracket, comma, operator or other sign that a line reads by itself,
-/// and is not that of a function, a variable, a number such as "e" or "pi", or another constant.
-std::string reasonAgainstConstantName(const std::string& name, int slot);
-
 } // namespace velmora

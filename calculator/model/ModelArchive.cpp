@@ -1,5 +1,6 @@
 #include "calculator/model/ModelArchive.h"
 
+#include "calculator/model/ConstantName.h"
 #include "calculator/model/Model.h"
 #include "calculator/model/ModelProperties.h"
 #include "platform/files/KeyedArchive.h"
@@ -147,7 +148,7 @@ void loadConstantNames(Model& model, const KeyedUnarchiver& coder) {
     for (const PropertyList& name : *saved) {
         names.push_back(name.asText() ? *name.asText() : std::string());
     }
-    model.constants().setNameArray(std::move(names));
+    setCheckedConstantNames(model.constants(), names);
 }
 
 void loadInequalities(Model& model, const KeyedUnarchiver& coder) {

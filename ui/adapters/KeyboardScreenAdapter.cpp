@@ -158,18 +158,25 @@ void KeyboardScreenAdapter::copy() {
 
 bool KeyboardScreenAdapter::pressHardwareKey(int key, const QString& text, int modifiers) {
     const ActionScope action;
-    if ((modifiers & Qt::ControlModifier) != 0 && pressShortcut(key)) {
+    if ((modifiers & Qt::ControlModifier) != 0 && pressShortcut(key, modifiers)) {
         return true;
     }
     const std::string name = hardwareKeyName(key, text, modifiers);
     return !name.empty() && m_controller->hardwareKey(name);
 }
 
-bool KeyboardScreenAdapter::pressShortcut(int key) {
+bool KeyboardScreenAdapter::pressShortcut(int key, int modifiers) {
+    const bool withShift = (modifiers & Qt::ShiftModifier) != 0;
     CalculatorLabel& label = view().currentEntryLabel();
     switch (key) {
     case Qt::Key_C:
         copy();
+        return true;
+    case Qt::Key_Z:
+        withShift ? m_controller->redo() : m_controller->undo();
+        return true;
+    case Qt::Key_Y:
+        m_controller->redo();
         return true;
     case Qt::Key_V:
         // Free text is no line: what is not known to be tokens would be guessed at.

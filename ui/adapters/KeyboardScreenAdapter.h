@@ -110,7 +110,7 @@ Q_SIGNALS:
 
 private:
     KeyboardView& view() const;
-    bool pressShortcut(int key);
+    bool pressShortcut(int key, int modifiers);
 
     std::shared_ptr<KeyboardViewController> m_controller;
     const SceneAdapter& m_scene;

@@ -29,9 +29,100 @@ TEST_F(HardwareKeysTest, keysEditTheLineLikeThoseOnScreen) {
         type(keys);
         EXPECT_EQ(shown(), result);
     }
-    press("clr"); // counts together with the last Escape
-    type("Escape");
-    EXPECT_EQ(history(), Texts{});
+    type("8 Escape Escape Escape Escape"); // empties the line, never the history
+    press("clr clr");
+    EXPECT_EQ(history(), Texts{"7 = 7"});
+}
+
+TEST_F(HardwareKeysTest, charactersOfOtherKeyboards) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"1 7 0 !", "fact(170)"},
+        {"2 + 3 . 5 E - 2 !", "2+fact(3.5E-2)"},
+        {"( 2 + 3 ) ! !", "fact(fact((2+3)))"},
+        {"- s i n ( 2 ) !", "-fact(sin(2))"},
+        {"4 Enter ! * 2", "4 = 4; fact(ans)*2"},
+        {"2 + ! Enter", "2+!"}, // nothing before it: it waits, and so does Enter
+        {"1 ) !", "1)!"},
+        {"√ ( 9", "sqrt((9"},
+        {"e ² + 2 ³", "e^2+2^3"},
+        {"7 Enter ²", "7 = 7; ans^2"},
+        {"3 ² 4 Enter", "3^2*4 = 36; "}, // the exponent is over
+        {"5 % Enter + 3 Enter", "5%+3"},
+        {"5 % Backspace Enter", "5 = 5; "},
+        {"3 $ × 2 ! Enter", "3$*2!"},
+        {"< 2 Enter", "<2"}};
+    for (const auto& [keys, result] : cases) {
+        SCOPED_TRACE(keys);
+        Model::resetForTests();
+        open();
+        type(keys);
+        EXPECT_EQ(shown(), result);
+    }
+    open();
+    for (const char* key : {"2", " ", "+", " ", "3", "Enter", "1", " ", "2", "Enter"}) {
+        keyboard->hardwareKey(key);
+    }
+    EXPECT_EQ(entry(), "1 2"); // never twelve
+    EXPECT_NE(screen.notice.find("blank"), std::string::npos);
+}
+
+TEST_F(HardwareKeysTest, editsAreTakenBackAndMadeAgain) {
+    open();
+    type("1 2 s i n ( 3");
+    const char* const before[] = {"12sin(", "12sin", "12si", "12s", "12", "1", "", ""};
+    for (const char* line : before) {
+        keyboard->undo();
+        EXPECT_EQ(entry(), line);
+    }
+    EXPECT_EQ(screen.notice, "There is nothing to undo in this line.");
+    for (int i = 0; i < 20; ++i) {
+        keyboard->redo();
+    }
+    EXPECT_EQ(entry(), "12sin(3");
+    keyboard->keyboardView().buttonWithCharacter("e")->pressed();
+    keyboard->keyboardView().buttonWithCharacter("e")->pressed();
+    EXPECT_EQ(entry(), "12sin(3E"); // one press, one step, though it took the "e" back
+    keyboard->undo();
+    EXPECT_EQ(entry(), "12sin(3e");
+    type("Home Delete 9 Escape");
+    keyboard->undo();
+    EXPECT_EQ(entry(), "9_2sin(3e");
+    keyboard->undo();
+    keyboard->redo();
+    EXPECT_EQ(entry(), "9_2sin(3e");
+    type("Enter Enter"); // another line
+    keyboard->undo();
+    EXPECT_EQ(entry(), "");
+    for (int i = 0; i < 150; ++i) {
+        type("7");
+    }
+    for (int i = 0; i < 149; ++i) {
+        keyboard->undo();
+    }
+    EXPECT_EQ(entry(), "7");
+}
+
+TEST_F(HardwareKeysTest, earlierLinesComeBackForEditing) {
+    open();
+    type("Up 1 + 1 Enter 2 * 3 Enter 8 s");
+    const std::pair<const char*, const char*> cases[] = {{"Up", "2*3"},
+                                                         {"Up", "1+1"},
+                                                         {"Up", "1+1"},
+                                                         {"Down", "2*3"},
+                                                         {"Down", "8s"},
+                                                         {"Down", "8s"},
+                                                         {"Up Backspace 4 Enter Up", "2*4"},
+                                                         {"Up", "2*3"}};
+    for (const auto& [keys, line] : cases) {
+        type(keys);
+        EXPECT_EQ(entry(), line) << keys;
+    }
+    EXPECT_EQ(history(), (Texts{"1+1 = 2", "2*3 = 6", "2*4 = 8"}));
+    press("clr clr clr");
+    type("Down 5");
+    EXPECT_EQ(entry(), "5");
+    open(1, &Model::m().equations());
+    EXPECT_FALSE(keyboard->hardwareKey("Up"));
 }
 
 /// What a person types on a hardware keyboard, and the tokens that the line holds then, with blanks
@@ -55,22 +146,28 @@ TEST_F(HardwareKeysTest, lettersBecomeTheNamesTheySpell) {
         {0, "sin", "", "sin", ""},
         {0, "2asin(3", "2 asin( 3", "", ""},
         {0, "SQRT(2)+Im(i)", "sqrt( 2 ) + Im( i )", "", ""},
-        {0, "xsin(", "sin(", "", "begins with “x”"}, // no variable here; the rest is still typed
+        {0, "xsin(", "", "xsin(", "“x” is no variable here. This line has none."},
         {1, "xsin(x", "x sin( x", "", ""},
         {1, "xx^x", "x x ^ x", "", ""},
         {1, "y1(x", "y1( x", "", ""},
-        {1, "ty<≥", "", "t", "begins with “ty”"}, // what waits is not lost
+        {1, "ty<≥", "", "ty<≥", "“t” is no variable here. This editor has “x”."},
+        {1, "2theta+1", "2", "theta+1", "“theta” is no variable here. This editor has “x”."},
         {2, "t+tanh(t", "t + tanh(", "t", ""},
         {3, "θcos(θ", "θ cos( θ", "", ""},
+        {3, "2Theta*thetatan(t", "2 θ * θ tan(", "t", ""},
+        {3, "t+", "", "t+", "“t” is no variable here. This editor has “θ”."},
         {4, "xy<", "x y", "", ""},
         {5, "x(y+e2", "x ( y + e 2", "", ""}, // what could have begun "y1(" and "erf("
+        {5, "xt", "x", "t", ""},              // may become "tan("
+        {5, "xt+", "x", "t+", "“t” is no variable here. This editor has “x” and “y”."},
         {0, "pi/piei", "π / π", "ei", ""},
         {0, "2mass", "2 @k2", "", ""},
         {0, "2E-3", "2 E - 3", "", ""},
         {0, "ISADensityKgM3(1", "ISADensityKgM3( 1", "", ""},
-        {0, "lo+g(7", "log( 7", "", "“lo” is only the start of log(, logbase("},
-        {0, "2qé", "2", "", "begins with “é”"},
-        {0, "sinq(", "sin(", "", "begins with “sinq”"}};
+        {0, "lo+g(7", "", "lo+g(7", "begins with “lo+g(7”"},
+        {0, "2qé", "2", "qé", "begins with “qé”"},
+        {0, "7%", "7", "%", "“%” cannot be read here."},
+        {0, "sinq(", "", "sinq(", "begins with “sinq(”"}};
     for (const TypedCase& c : cases) {
         SCOPED_TRACE(c.typed);
         screen.notice.clear();

@@ -1,6 +1,7 @@
 #include "tests/calculator/CalculatorFixture.h"
 
 #include "calculator/keyboard/ButtonLayout.h"
+#include "calculator/keyboard/EditingMode.h"
 #include "calculator/keyboard/KeyboardLayoutStrings.h"
 #include "calculator/model/KeyboardGeometry.h"
 
@@ -164,11 +165,11 @@ TEST_F(KeyboardLayoutTest, colours) {
 }
 
 TEST_F(KeyboardLayoutTest, unknownKeysGeometriesAndModes) {
-    EXPECT_EQ(colourClass("q", 0), "a");
+    EXPECT_EQ(colourClass("q", editingMode(0)), "a");
     EXPECT_TRUE(logHolds("Assertion failure"));
-    EXPECT_EQ(keyboardLayoutString(5, 0, 0), "");
-    EXPECT_EQ(keyboardLayoutString(0, 6, 0), "");
-    EXPECT_EQ(keyboardLayoutString(4, -1, 0), "");
+    EXPECT_EQ(keyboardLayoutString(5, editingMode(0), 0), "");
+    EXPECT_EQ(keyboardLayoutString(0, editingMode(6), 0), "");
+    EXPECT_EQ(keyboardLayoutString(4, editingMode(-1), 0), "");
     open(6);
     EXPECT_TRUE(keyboard->keyboardView().buttonArray().empty());
     EXPECT_FALSE(keyboard->hardwareKey("Enter")); // and no tall key to press

@@ -1,6 +1,7 @@
 #include "calculator/lists/ConstantEditViewController.h"
 #include "calculator/lists/FunctionListTrimming.h"
 #include "calculator/lists/FunctionSelectViewController.h"
+#include "calculator/model/ConstantName.h"
 #include "platform/files/Resources.h"
 #include "platform/machine/Clock.h"
 #include "platform/machine/RandomSource.h"
@@ -221,7 +222,7 @@ TEST_F(FunctionSelectTest, ownConstantsAreDefinedNamedChangedAndDeleted) {
         EXPECT_EQ(alerts.alerts().size(), accepted ? 0U : 1U) << name;
     }
     EXPECT_EQ(editor.name(), "rate");
-    EXPECT_EQ(reasonAgainstConstantName("a+b", 2), "A name cannot hold “+”.");
+    EXPECT_EQ(reasonAgainstConstantName(Model::m().constants(), "a+b", 2), "A name cannot hold “+”.");
     Model::m().constants().setNameAtIndex(2, "v-1"); // as a file may bring it
     EXPECT_TRUE(editor.setName("v-1"));
     EXPECT_TRUE(editor.setName("rate"));

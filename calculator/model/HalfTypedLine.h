@@ -1,0 +1,22 @@
+#pragma once
+
+#include "engine/lines/TokenElement.h"
+
+#include <string>
+
+namespace velmora {
+
+/// Where the user stands in a line: the cursor, and what is typed there but is no token yet.
+struct LinePlace {
+    int cursor = 0;
+    std::string typed;
+    bool operator==(const LinePlace&) const = default;
+};
+
+/// A line as it stands while it is typed.
+struct HalfTypedLine {
+    TokenArray tokens;
+    LinePlace place;
+};
+
+} // namespace velmora
