@@ -11,6 +11,7 @@
 #include "platform/text/Log.h"
 #include "resources/CompiledResources.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <string_view>
@@ -99,7 +100,7 @@ std::shared_ptr<ViewController> makeTab(const TabRow& row) {
 
 } // namespace
 
-VelmoraAppDelegate::VelmoraAppDelegate() = default;
+VelmoraAppDelegate::VelmoraAppDelegate() : m_saver([] { Model::m().save(); }) {}
 
 VelmoraAppDelegate::~VelmoraAppDelegate() = default;
 
@@ -129,6 +130,23 @@ void VelmoraAppDelegate::applicationDidFinishLaunching() {
     if (Model::m().unitConverterIsPushed()) {
         m_calculator->unitsButtonPressed();
     }
+    keepTheSelectedTab();
+    m_changes = Model::m().changed().subscribe([this](ModelChange change) { m_saver.note(change); });
+    m_replacements = Model::m().replaced().subscribe([this] { m_calculator->reloadHistory(); });
+}
+
+void VelmoraAppDelegate::keepTheSelectedTab() {
+    const TabBarController::Tabs& tabs = m_tabBarController->viewControllers();
+    const auto chosen =
+        std::ranges::find(tabs, Model::m().selectedTab(), [](const auto& tab) { return tab->tabTitle(); });
+    if (chosen != tabs.end()) {
+        m_tabBarController->setSelectedIndex(static_cast<std::size_t>(chosen - tabs.begin()));
+    }
+    m_selections = m_tabBarController->selectionChanged().subscribe([this] {
+        if (const auto selected = m_tabBarController->selectedViewController()) {
+            Model::m().setSelectedTab(selected->tabTitle());
+        }
+    });
 }
 
 void VelmoraAppDelegate::applicationDidBecomeActive() {

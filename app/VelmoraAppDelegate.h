@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/AutoSaver.h"
+#include "platform/events/Subscription.h"
 #include "platform/screens/TabBarController.h"
 
 #include <memory>
@@ -29,8 +31,14 @@ public:
     const std::shared_ptr<KeyboardViewController>& calculator() const { return m_calculator; }
 
 private:
+    void keepTheSelectedTab();
+
     std::shared_ptr<TabBarController> m_tabBarController;
     std::shared_ptr<KeyboardViewController> m_calculator;
+    AutoSaver m_saver;
+    Subscription m_changes;
+    Subscription m_replacements;
+    Subscription m_selections;
 };
 
 } // namespace velmora

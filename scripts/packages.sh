@@ -13,6 +13,7 @@ packages_build=(
     qt6-base-dev
     qt6-declarative-dev
     qt6-sensors-dev
+    zlib1g-dev
 )
 
 # What the program loads while it runs, and the fonts of its scenes.
@@ -29,11 +30,11 @@ packages_run=(
     qml6-module-qtquick-window
 )
 
-# Showing the program from a machine without a display. The window manager lets a viewer resize the
-# window, which is how a desktop turns the phone into a tablet.
+# Showing the program from a machine without a display: only its one window, without a window manager, whose
+# menus would offer more of the machine than the program.
 packages_vnc=(
-    openbox
     x11vnc
+    xauth
     xvfb
 )
 

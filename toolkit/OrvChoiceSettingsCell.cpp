@@ -9,6 +9,11 @@ bool OrvSwitchSettingsCell::choose(int index) {
     return (index == 0 || index == 1) && setValue(PropertyList(index == 1));
 }
 
+int OrvChoiceSettingsCell::index() const {
+    const int value = valueAsIndex();
+    return m_items.empty() || value < 0 ? value : value % static_cast<int>(m_items.size());
+}
+
 std::string OrvChoiceSettingsCell::valueText() const {
     const auto chosen = static_cast<std::size_t>(index());
     return chosen < m_items.size() ? m_items[chosen] : std::string();

@@ -16,14 +16,15 @@ public:
     bool choose(int index) override;
 };
 
-/// One of a few texts; the value is the index of the chosen one.
+/// One of a few texts; the value is the index of the chosen one. A value past them counts round: the
+/// tablet's display modes 2 and 3, which files hold, have the keys of 0 and 1.
 class OrvChoiceSettingsCell : public OrvBoundSettingsCell {
 public:
     OrvChoiceSettingsCell(std::string title, Binding binding, std::vector<std::string> items)
         : OrvBoundSettingsCell(std::move(title), std::move(binding)), m_items(std::move(items)) {}
 
     std::vector<std::string> items() const override { return m_items; }
-    int index() const override { return valueAsIndex(); }
+    int index() const override;
     std::string valueText() const override;
     bool choose(int index) override;
 

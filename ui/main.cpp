@@ -1,3 +1,4 @@
+#include "platform/machine/StandardStreams.h"
 #include "platform/text/Log.h"
 #include "ui/Application.h"
 #include "ui/machine/RendererChoice.h"
@@ -30,6 +31,7 @@ int runVelmora(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    velmora::secureStandardStreams();
     std::puts("Velmora starts");
     try {
         return runVelmora(argc, argv);

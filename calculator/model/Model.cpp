@@ -3,12 +3,9 @@
 #include "calculator/model/Assertion.h"
 #include "calculator/model/GraphTypeTable.h"
 #include "calculator/model/KeyboardGeometry.h"
-#include "calculator/model/ModelArchive.h"
 #include "calculator/model/ModelProperties.h"
 #include "calculator/model/OrientationMode.h"
 #include "engine/tree/Expression.h"
-#include "platform/files/PropertyListFile.h"
-#include "platform/files/SavingRegistry.h"
 #include "platform/machine/DocumentsFolder.h"
 #include "platform/screens/NavigationController.h"
 #include "platform/screens/ScreenRegistry.h"
@@ -25,19 +22,11 @@ constexpr int kHistoryLength = 50;
 constexpr int kConstantCount = 50;
 constexpr int kSlotCount = 4;
 constexpr int kActivationsBetweenTips = 20;
-constexpr double kSmallestGraphWidth = 1e-9;
 constexpr std::size_t kEquationsTab = 1;
 
 void nameList(ExpressionList& list, const char* functionName, const char* variableName) {
     list.setFunctionName(functionName);
     list.setVariableNameString(variableName);
-}
-
-void repairMaximum(double& maximum, double minimum) {
-    // Where either is NaN the comparison is false and the stored value stays; intended.
-    if (maximum < minimum + kSmallestGraphWidth) {
-        maximum = minimum + kSmallestGraphWidth;
-    }
 }
 
 } // namespace
@@ -65,46 +54,38 @@ Model::Model()
     nameList(m_polarR, "r", "θ");
     nameList(m_impliedFunctions, "f", "x, y");
     nameList(m_constants, "@k", "");
+    for (ExpressionList* list :
+         std::initializer_list<ExpressionList*>{&m_history, &m_equations, &m_parametricX, &m_parametricY,
+                                                &m_polarR, &m_impliedFunctions, &m_constants}) {
+        list->setObserver([this] { changed().emit(ModelChange::Committed); });
+    }
+    for (const ModelProperty& property : modelProperties()) {
+        property.set(*this, property.byDefault);
+    }
+    resetGraphBounds();
 }
 
 Model::~Model() = default;
 
 std::optional<std::filesystem::path> Model::dataFilePath() { return documentPath("Calculator archive"); }
 
-void Model::save() {
-    SavingRegistry::shared().saveAll();
-    if (const auto path = dataFilePath()) {
-        writePropertyListAtomically(*path, archivedModel(*this));
-    }
-}
+void Model::save() { m_file.save(*this); }
 
-void Model::load() {
-    setUnitConverterArray(std::nullopt);
-    const auto path = dataFilePath();
-    const auto archive = path ? readDictionaryFile(*path, "catch") : std::nullopt;
-    loadArchivedModel(*this, archive.value_or(PropertyDictionary()));
-}
+void Model::load() { m_file.load(*this); }
 
 void Model::setAngleMode(int mode) {
-    m_angleMode = mode;
     m_environment.setAngleMode(mode == 1 ? AngleMode::Degrees : AngleMode::Radians);
+    ModelSettings::setAngleMode(mode); // who hears of the change finds the engine in the new mode
 }
 
 std::string Model::angleModeAsString() const {
-    if (m_angleMode != 0 && m_angleMode != 1) {
-        assertionFailure("no angle mode " + std::to_string(m_angleMode));
+    if (angleMode() != 0 && angleMode() != 1) {
+        assertionFailure("no angle mode " + std::to_string(angleMode()));
     }
-    return m_angleMode == 1 ? "Degrees" : "Radians";
+    return angleMode() == 1 ? "Degrees" : "Radians";
 }
 
-double Model::complexRoundingThreshold() const { return m_roundSmallPartsOfComplexNumbers ? 1e-12 : 0; }
-
-int Model::displayMode() const {
-    if (!isTablet()) {
-        return 4;
-    }
-    return m_displayMode >= 0 && m_displayMode <= 3 ? m_displayMode : 1;
-}
+double Model::complexRoundingThreshold() const { return roundSmallPartsOfComplexNumbers() ? 1e-12 : 0; }
 
 bool Model::displayModeIsWide() const {
     const int mode = displayMode();
@@ -115,13 +96,13 @@ bool Model::shouldAutorotateToInterfaceOrientation(Orientation orientation) cons
     if (!isTablet()) {
         return isPortrait(orientation);
     }
-    return isPortrait(orientation) ? orientationModeAllowsPortait(m_orientationMode)
-                                   : orientationModeAllowsLandscape(m_orientationMode);
+    return isPortrait(orientation) ? orientationModeAllowsPortait(orientationMode())
+                                   : orientationModeAllowsLandscape(orientationMode());
 }
 
 int Model::keyboardGeometry() const {
     if (!isTablet()) {
-        return m_largeFontsOnPhone ? kGeometryPhoneLargeFonts : kGeometryPhone;
+        return largeFontsOnPhone() ? kGeometryPhoneLargeFonts : kGeometryPhone;
     }
     if (isLandscape(currentDevice().statusBarOrientation())) {
         return kGeometryTabletLandscape;
@@ -131,28 +112,10 @@ int Model::keyboardGeometry() const {
 
 int Model::fontSizeMode() const { return fontSizeModeForGeometry(keyboardGeometry()); }
 
-double Model::xMaxForGraph() const {
-    repairMaximum(m_xMaxForGraph, m_xMinForGraph);
-    return m_xMaxForGraph;
-}
-
-double Model::yMaxForGraph() const {
-    repairMaximum(m_yMaxForGraph, m_yMinForGraph);
-    return m_yMaxForGraph;
-}
-
-void Model::resetGraphBounds() {
-    m_yMinForGraph = -10;
-    m_yMaxForGraph = 10;
-    m_xMinForGraph = -10;
-    m_xMaxForGraph = 10.062695924764892;
-}
-
 void Model::setGraphType(int type) {
-    if (type == m_graphType) {
+    if (!storeGraphType(type)) {
         return;
     }
-    m_graphType = type;
     m_graphTypeChanged.emit();
     const auto tabBar = m_tabBarController.lock();
     if (!tabBar || tabBar->viewControllers().size() <= kEquationsTab) {
@@ -166,20 +129,20 @@ void Model::setGraphType(int type) {
 }
 
 std::shared_ptr<ViewController> Model::currentEquationsViewController() {
-    if (!m_equationsEditor || m_editorGraphType != m_graphType) {
-        const GraphTypeRow* row = graphTypeRow(m_graphType);
+    if (!m_equationsEditor || m_editorGraphType != graphType()) {
+        const GraphTypeRow* row = graphTypeRow(graphType());
         auto editor = row ? ScreenRegistry::shared().make(row->equationsScreen) : nullptr;
         if (!editor) {
             return nullptr;
         }
         m_equationsEditor = std::move(editor);
-        m_editorGraphType = m_graphType;
+        m_editorGraphType = graphType();
     }
     return m_equationsEditor;
 }
 
 bool Model::explainFailureToGraph() const {
-    if (m_graphType != static_cast<int>(GraphType::Function)) {
+    if (graphType() != static_cast<int>(GraphType::Function)) {
         return false;
     }
     for (int i = 0; i < m_equations.nExpressions(); ++i) {
@@ -193,15 +156,16 @@ bool Model::explainFailureToGraph() const {
 
 int Model::pickerSelectedUnitIndex() const {
     const int count = m_unitConverterArray ? static_cast<int>(m_unitConverterArray->size()) : 0;
-    return m_pickerSelectedUnitIndex > count ? count - 1 : m_pickerSelectedUnitIndex;
+    return storedUnitIndex() > count ? count - 1 : storedUnitIndex();
 }
 
 void Model::addActivations(int count) {
-    m_nHasBecomeActive += std::min(count, std::numeric_limits<int>::max() - std::max(m_nHasBecomeActive, 0));
+    const int before = nHasBecomeActive();
+    setNHasBecomeActive(before + std::min(count, std::numeric_limits<int>::max() - std::max(before, 0)));
 }
 
 bool Model::shouldShowSettingsTip() const {
-    return !m_settingsHaveBeenAccessed && m_nHasBecomeActive % kActivationsBetweenTips == 0;
+    return !settingsHaveBeenAccessed() && nHasBecomeActive() % kActivationsBetweenTips == 0;
 }
 
 std::optional<PropertyList> Model::valueForKey(std::string_view key) const {

@@ -1,5 +1,6 @@
 #include "calculator/model/ModelArchive.h"
 
+#include "calculator/model/ArchiveKeys.h"
 #include "calculator/model/ConstantName.h"
 #include "calculator/model/Model.h"
 #include "calculator/model/ModelProperties.h"
@@ -14,46 +15,12 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t kLeastInequalities = 4;
-constexpr double kSoundVolume = 0.3;
-constexpr double kTwoPi = 6.283185307179586;
 constexpr int kTabletDefaultDisplayMode = 1;
-
-/// A setting: its key in the file, the model's property, and what it is where the file says nothing usable.
-struct SettingRow {
-    const char* key;
-    const char* property;
-    PropertyList byDefault;
-};
 
 /// A list of lines.
 struct ListRow {
     const char* key;
     ExpressionList& (*list)(Model&);
-};
-
-// The keys are those of files that people have; none may ever change its meaning.
-const std::array kSettings{
-    SettingRow{"maxDigitsForDecimalNotationKey", "maxDigitsForDecimalNotation", 9},
-    SettingRow{"SameScaleXAndYKey", "sameScaleXAndY", false},
-    SettingRow{"displayDigitsKey", "displayDigits", 5},
-    SettingRow{"soundIsOnKey", "soundIsOn", false},
-    SettingRow{"tStartForParametricGraph", "tStartForParametricGraph", 0.0},
-    SettingRow{"tEndForParametricGraph", "tEndForParametricGraph", 1.0},
-    SettingRow{"thetaStartForPolarGraph", "thetaStartForPolarGraph", 0.0},
-    SettingRow{"thetaEndForPolarGraph", "thetaEndForPolarGraph", kTwoPi},
-    SettingRow{"PutLabelsOnGraphKey", "putLabelsOnGraph", true},
-    SettingRow{"ShakeToResetKey", "shakeToResetGraph", true},
-    SettingRow{"UnitConverterIsPushed", "unitConverterIsPushed", false},
-    SettingRow{"commasInNumbersKey", "commasInNumbers", false},
-    SettingRow{"Angle Mode", "angleMode", 0},
-    SettingRow{"Graph Mode", "graphType", 0},
-    SettingRow{"GraphGridLinetype", "graphGridLineType", 0},
-    SettingRow{"GraphBackgroundIsBlack", "graphBackgroundIsBlack", false},
-    SettingRow{"WhichKeyboard", "whichKeyboard", 0},
-    SettingRow{"RoundComplexNumbers", "roundSmallPartsOfComplexNumbers", true},
-    SettingRow{"LargeFontsOnPhoneKey", "largeFontsOnPhone", false},
-    SettingRow{"orientationModeKey", "orientationMode", 0},
-    SettingRow{"settingsHaveBeenAccessedKey", "settingsHaveBeenAccessed", false},
 };
 
 // The constants stand before the history, whose lines may name them.
@@ -63,7 +30,7 @@ constexpr std::array kLists{
     ListRow{"ParametricYTokenArrays", [](Model& m) -> ExpressionList& { return m.parametricY(); }},
     ListRow{"PolarRTokenArrays", [](Model& m) -> ExpressionList& { return m.polarR(); }},
     ListRow{"ConstantsArrays", [](Model& m) -> ExpressionList& { return m.constants(); }},
-    ListRow{"ModelHistoryTokenArrays", [](Model& m) -> ExpressionList& { return m.history(); }},
+    ListRow{kHistoryArchiveKey, [](Model& m) -> ExpressionList& { return m.history(); }},
     ListRow{"impliedFunctionsTokenArrays", [](Model& m) -> ExpressionList& { return m.impliedFunctions(); }},
 };
 
@@ -75,6 +42,9 @@ constexpr const char* kImpliedFunctionHeights = "impliedFunctionsLevelCurveHeigh
 constexpr const char* kConstantNames = "ConstantsNameArrays";
 constexpr const char* kInequalities = "InequalityArrayKey";
 constexpr const char* kDisplayMode = "displayModeEnumKey";
+// Beside the mode in force, which on a phone says nothing of the choice.
+constexpr const char* kDisplayModeOnTablet = "displayModeOnTabletKey";
+constexpr const char* kSelectedTab = "SelectedTabKey";
 constexpr const char* kActivations = "nHasBecomeActiveKey";
 constexpr const char* kLetterIOnMainKeyboard = "iOnMainKeyboard";
 // Of earlier releases: still read, no longer written.
@@ -99,18 +69,22 @@ bool isEndOfBrokenRange(std::string_view key, const KeyedUnarchiver& coder) {
 }
 
 void loadSettings(Model& model, const KeyedUnarchiver& coder) {
-    for (const SettingRow& row : kSettings) {
-        const PropertyList* saved = coder.value(row.key);
-        const ModelProperty* property = modelProperty(row.property);
-        const bool usable = saved && isOfType(*property, *saved) && accepts(*property, *saved) &&
-                            !isEndOfBrokenRange(row.key, coder);
-        property->set(model, usable ? *saved : row.byDefault);
+    for (const ModelProperty& property : modelProperties()) {
+        if (!property.archiveKey) {
+            continue;
+        }
+        const PropertyList* saved = coder.value(property.archiveKey);
+        const bool usable = saved && isOfType(property, *saved) && accepts(property, *saved) &&
+                            !isEndOfBrokenRange(property.archiveKey, coder);
+        property.set(model, usable ? *saved : property.byDefault);
     }
 }
 
 /// A tablet's; a phone has only one, which the model knows by itself.
 void loadDisplayMode(Model& model, const KeyedUnarchiver& coder) {
-    const std::int64_t saved = coder.integer(kDisplayMode).value_or(kTabletDefaultDisplayMode);
+    const auto choice = coder.integer(kDisplayModeOnTablet);
+    const std::int64_t saved =
+        choice ? *choice : coder.integer(kDisplayMode).value_or(kTabletDefaultDisplayMode);
     const bool known = accepts(*modelProperty("displayMode"), PropertyList(saved));
     model.setDisplayMode(known ? static_cast<int>(saved) : kTabletDefaultDisplayMode);
 }
@@ -176,8 +150,10 @@ void completeHistory(ExpressionList& history) {
 
 PropertyList archivedModel(Model& model) {
     KeyedArchiver coder;
-    for (const SettingRow& row : kSettings) {
-        coder.encode(row.key, modelProperty(row.property)->get(model));
+    for (const ModelProperty& property : modelProperties()) {
+        if (property.archiveKey) {
+            coder.encode(property.archiveKey, property.get(model));
+        }
     }
     for (const ListRow& row : kLists) {
         coder.encode(row.key, row.list(model).expressionTokenArrays());
@@ -198,6 +174,8 @@ PropertyList archivedModel(Model& model) {
         coder.encode(kBoundKeys[i], bounds[i]);
     }
     coder.encode(kDisplayMode, model.displayMode());
+    coder.encode(kDisplayModeOnTablet, model.displayModeOnTablet());
+    coder.encode(kSelectedTab, model.selectedTab());
     coder.encode(kActivations, model.nHasBecomeActive());
     coder.encode(kLetterIOnMainKeyboard, model.iOnMainKeyboard());
     return coder.propertyList();
@@ -205,10 +183,12 @@ PropertyList archivedModel(Model& model) {
 
 void loadArchivedModel(Model& model, const PropertyList& archive) {
     const KeyedUnarchiver coder(archive);
-    model.setSoundVolume(kSoundVolume);
+    const ModelProperty* volume = modelProperty("soundVolume");
+    volume->set(model, volume->byDefault); // intended: the same at every start
     loadSettings(model, coder);
     loadDisplayMode(model, coder);
     loadActivations(model, coder);
+    model.setSelectedTab(coder.text(kSelectedTab).value_or(std::string()));
     const PropertyArray* pickerRows = coder.array(kPickerRows);
     model.setSelectedUnitConverterPickerRows(pickerRows ? *pickerRows : PropertyArray());
     const PropertyList pickerUnit(coder.integer(kPickerUnit).value_or(0));

@@ -4,7 +4,9 @@
 
 #include <limits>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace velmora {
 
@@ -12,7 +14,20 @@ class Model;
 
 enum class PropertyType : unsigned char { Boolean, Integer, Number };
 
-/// One property of the model that settings rows bind to and files hold.
+/// How a property is edited in the settings: the kind of its row.
+enum class SettingKind : unsigned char { None, ListPick, Integer, Switch, Double, Segmented };
+
+/// The row of a property in the settings. Those of one section stand in the order of the table.
+struct SettingLook {
+    int section = 0;
+    SettingKind kind = SettingKind::None;
+    const char* title = "";
+    std::vector<std::string> items{}; ///< of a list pick or a segmented row: their indices are the values
+    const char* explanation = "";
+};
+
+/// One setting of the model, whole: what it is called, which values it takes, where it is kept and how it
+/// is edited.
 struct ModelProperty {
     std::string_view key; ///< the property's name
     PropertyType type;
@@ -20,6 +35,9 @@ struct ModelProperty {
     void (*set)(Model&, const PropertyList&); ///< the value must have passed `accepts`
     double minimum = -std::numeric_limits<double>::max();
     double maximum = std::numeric_limits<double>::max();
+    PropertyList byDefault{};         ///< at a first start, and where the file says nothing usable
+    const char* archiveKey = nullptr; ///< of the file; null for what ModelArchive keeps by rules of its own
+    SettingLook look{};
 };
 
 /// All of them, once each.

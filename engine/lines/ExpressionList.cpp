@@ -96,9 +96,16 @@ std::shared_ptr<const Expression> ExpressionList::lastExpression() const {
     return expressionAtIndex(nExpressions() - 1);
 }
 
+void ExpressionList::noteChange() const {
+    definitionsChanged();
+    if (m_observer) {
+        m_observer();
+    }
+}
+
 void ExpressionList::reset() {
     m_entries.clear();
-    definitionsChanged();
+    noteChange();
 }
 
 void ExpressionList::addExpressionTokenArray(TokenArray tokens) {
@@ -106,7 +113,7 @@ void ExpressionList::addExpressionTokenArray(TokenArray tokens) {
     if (nExpressions() > m_maxExpressions) {
         m_entries.erase(m_entries.begin());
     }
-    definitionsChanged();
+    noteChange();
 }
 
 bool ExpressionList::setExpressionAtIndex(int index, const ExpressionWithTokenArray& entry,
@@ -125,6 +132,7 @@ bool ExpressionList::setExpressionAtIndex(int index, const ExpressionWithTokenAr
         definitionsChanged();
         return false;
     }
+    noteChange();
     return true;
 }
 

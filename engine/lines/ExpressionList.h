@@ -2,6 +2,7 @@
 
 #include "engine/lines/ExpressionWithTokenArray.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -68,11 +69,19 @@ public:
     /// taken: of the history the newest stay, of a list of slots the first.
     void loadWithObject(const PropertyList& object);
 
+    /// Called after every change of what the list holds; one at a time, null for none.
+    void setObserver(std::function<void()> observer) { m_observer = std::move(observer); }
+
+protected:
+    /// To be called after a change: lines that hold a definition parse anew, and the observer is told.
+    void noteChange() const;
+
 private:
     void appendEmptyEntries(int max, int n);
     bool hasEntry(int index) const;
 
     std::vector<std::unique_ptr<ExpressionWithTokenArray>> m_entries;
+    std::function<void()> m_observer;
     int m_maxExpressions = 0;
     bool m_keepsNewest; // a list that starts short is one that is added to, like the history
     bool m_couldBeExpressionInput = false;

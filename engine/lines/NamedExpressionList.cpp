@@ -16,6 +16,7 @@ NamedExpressionList::NamedExpressionList(int max, int n)
 void NamedExpressionList::setNameArray(std::vector<std::string> names) {
     names.resize(static_cast<std::size_t>(std::max(maxExpressions(), 0)));
     m_names = std::move(names);
+    noteChange();
 }
 
 void NamedExpressionList::setNameAtIndex(int index, std::string name) {
@@ -25,6 +26,7 @@ void NamedExpressionList::setNameAtIndex(int index, std::string name) {
     const auto i = static_cast<std::size_t>(index);
     m_names.resize(std::max(m_names.size(), i + 1));
     m_names[i] = std::move(name);
+    noteChange();
 }
 
 std::string NamedExpressionList::fullFunctionNameWithIndex(int index) const {

@@ -1,5 +1,6 @@
 #include "platform/files/AtomicFile.h"
 
+#include "platform/files/Descriptor.h"
 #include "platform/text/Log.h"
 
 #include <cerrno>
@@ -16,30 +17,11 @@ namespace velmora {
 
 namespace {
 
-/// An open file; -1 when opening failed.
-class Descriptor {
-public:
-    explicit Descriptor(int value) : m_value(value) {}
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    bool isOpen() const { return m_value >= 0; }
-    int value() const { return m_value; }
-    /// Closing may be what reports that a write failed.
-    bool close() {
-        const int value = std::exchange(m_value, -1);
-        return value < 0 || ::close(value) == 0;
-    }
-
-private:
-    int m_value;
-};
-
-bool logFailure(std::string_view what, const std::filesystem::path& path) {
-    const std::string reason = std::generic_category().message(errno);
+/// Logs the reason that errno holds, and gives it.
+std::string logFailure(std::string_view what, const std::filesystem::path& path) {
+    std::string reason = std::generic_category().message(errno);
     log(std::string(what) + " " + path.string() + ": " + reason);
-    return false;
+    return reason;
 }
 
 bool writeAll(int descriptor, std::span<const std::uint8_t> bytes) {
@@ -95,46 +77,45 @@ bool claimName(const std::filesystem::path& path, bool forFolder) {
 
 } // namespace
 
-bool writeFileAtomically(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
+WriteResult writeFileAtomically(const std::filesystem::path& link, std::span<const std::uint8_t> bytes) {
+    const auto target = followLinks(link);
+    if (!target) {
+        errno = ELOOP;
+        return {logFailure("cannot write", link)};
+    }
+    const std::filesystem::path& path = *target;
     std::string temporary = path.string() + ".XXXXXX";
     Descriptor descriptor(::mkstemp(temporary.data()));
     if (!descriptor.isOpen()) {
-        return logFailure("cannot write", path);
+        return {logFailure("cannot write", path)};
     }
     if (writeAll(descriptor.value(), bytes) && ::fsync(descriptor.value()) == 0 && descriptor.close() &&
         ::rename(temporary.c_str(), path.c_str()) == 0) {
         flushFolder(folderOf(path));
         removeAbandonedFiles(path);
-        return true;
+        return {};
     }
-    logFailure("cannot write", path);
+    std::string reason = logFailure("cannot write", path);
     ::unlink(temporary.c_str());
-    return false;
+    return {std::move(reason)};
 }
 
-bool writeFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
+WriteResult writeFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
     return writeFileAtomically(path,
                                std::span(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()));
 }
 
-std::optional<std::string> readFile(const std::filesystem::path& path) {
-    const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!descriptor.isOpen()) {
-        return std::nullopt;
-    }
-    std::string bytes;
-    char buffer[65536];
-    while (true) {
-        const ssize_t count = ::read(descriptor.value(), buffer, sizeof buffer);
-        if (count == 0) {
-            return bytes;
+std::optional<std::filesystem::path> followLinks(std::filesystem::path path) {
+    constexpr int mostLinks = 40; // as many as the system itself follows
+    for (int links = 0; links < mostLinks; ++links) {
+        std::error_code error;
+        const std::filesystem::path target = std::filesystem::read_symlink(path, error);
+        if (error) {
+            return path; // no link, or nothing
         }
-        if (count > 0) {
-            bytes.append(buffer, static_cast<std::size_t>(count));
-        } else if (errno != EINTR) {
-            return std::nullopt;
-        }
+        path = path.parent_path() / target;
     }
+    return std::nullopt;
 }
 
 std::optional<std::filesystem::path> setAsideDamagedFile(const std::filesystem::path& path) {

@@ -156,12 +156,11 @@ private:
             return std::nullopt;
         }
         Extent extent{.depth = 1};
+        if (header.kind == Kind::Dictionary && !hasKeysOfItsOwn(header)) {
+            return std::nullopt;
+        }
         for (std::uint64_t index = 0; index < header.count * referenceCount; ++index) {
             const std::uint64_t child = bigEndian(header.content + index * m_referenceSize, m_referenceSize);
-            const bool isKey = header.kind == Kind::Dictionary && index < header.count;
-            if (isKey && !isText(child)) {
-                return std::nullopt;
-            }
             const std::optional<Extent> part = visit(child, depth + 1);
             if (!part) {
                 return std::nullopt;
@@ -178,9 +177,34 @@ private:
         return extent;
     }
 
-    bool isText(std::uint64_t object) const {
+    /// Whether the keys are texts, each another one. A key that stands twice would take the place of one
+    /// that is missing.
+    bool hasKeysOfItsOwn(const Header& header) const {
+        if (header.count > kMaximumPropertyListKeys) {
+            return false;
+        }
+        std::vector<std::string_view> keys;
+        for (std::uint64_t index = 0; index < header.count; ++index) {
+            const std::uint64_t key = bigEndian(header.content + index * m_referenceSize, m_referenceSize);
+            const auto text = textBytes(key);
+            if (!text) {
+                return false;
+            }
+            keys.push_back(*text);
+        }
+        std::ranges::sort(keys);
+        return std::ranges::adjacent_find(keys) == keys.end();
+    }
+
+    std::optional<std::string_view> textBytes(std::uint64_t object) const {
         const std::optional<Header> header = object < m_objectCount ? readHeader(object) : std::nullopt;
-        return header && (header->kind == Kind::AsciiText || header->kind == Kind::Utf16Text);
+        if (!header || (header->kind != Kind::AsciiText && header->kind != Kind::Utf16Text)) {
+            return std::nullopt;
+        }
+        const std::uint64_t unit = header->kind == Kind::Utf16Text ? 2 : 1;
+        return header->count <= m_bytes.size() && holds(header->content, header->count * unit)
+                   ? std::optional(m_bytes.substr(header->content, header->count * unit))
+                   : std::nullopt;
     }
 
     std::optional<Extent> visitLeaf(const Header& header) const {

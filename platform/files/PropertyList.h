@@ -59,12 +59,18 @@ private:
 /// Containers nested deeper than this are refused when reading: a hostile file must not exhaust the stack.
 inline constexpr int kMaximumPropertyListDepth = 64;
 
-/// The binary form of the list. Doubles survive bit for bit, and so do empty values. In text, what is not
-/// UTF-8 and U+0000, which the format cannot hold, is written as U+FFFD. A list nested deeper than the
-/// limit, which could not be read again, is logged and gives no bytes.
+/// A text as it stands in a file: what is not UTF-8 and U+0000, which the format cannot hold, as U+FFFD.
+std::string textAsWritten(const std::string& text);
+
+/// The binary form of the list. Doubles survive bit for bit, and so do empty values. A
+/// list nested deeper than the limit, which could not be read again, is logged and gives no bytes.
 PropertyData binaryPropertyList(const PropertyList& list);
 
-/// Reads the binary or the XML form; nothing when the bytes are damaged, truncated or nested too deep.
+/// No dictionary of the program has more keys, by far; the library's effort grows with their square.
+inline constexpr std::size_t kMaximumPropertyListKeys = 4'096;
+
+/// Reads the binary or the XML form; nothing when the bytes are damaged, truncated, nested too deep, or
+/// hold more values than any file of the program could.
 /// A whole number beyond 64 bits with sign reads as a double; dates and identifiers, which no file of this
 /// program holds, read as empty values.
 std::optional<PropertyList> readPropertyList(std::string_view bytes);

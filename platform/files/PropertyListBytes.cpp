@@ -60,14 +60,6 @@ int containerDepth(const PropertyList& list, int limit = kMaximumPropertyListDep
     return 0;
 }
 
-std::string writableText(const std::string& text) {
-    std::string result = validUtf8(text);
-    for (std::size_t at = result.find('\0'); at != std::string::npos; at = result.find('\0', at)) {
-        result.replace(at, 1, "\uFFFD");
-    }
-    return result;
-}
-
 plist_t makeNode(const PropertyList& list) {
     return std::visit(
         [](const auto& value) -> plist_t {
@@ -81,7 +73,7 @@ plist_t makeNode(const PropertyList& list) {
             } else if constexpr (std::is_same_v<Value, double>) {
                 return plist_new_real(value);
             } else if constexpr (std::is_same_v<Value, std::string>) {
-                return plist_new_string(writableText(value).c_str());
+                return plist_new_string(textAsWritten(value).c_str());
             } else if constexpr (std::is_same_v<Value, PropertyData>) {
                 return plist_new_data(reinterpret_cast<const char*>(value.data()), value.size());
             } else if constexpr (std::is_same_v<Value, PropertyArray>) {
@@ -93,7 +85,7 @@ plist_t makeNode(const PropertyList& list) {
             } else {
                 plist_t node = plist_new_dict();
                 for (const auto& [key, element] : value) {
-                    plist_dict_set_item(node, writableText(key).c_str(), makeNode(element));
+                    plist_dict_set_item(node, textAsWritten(key).c_str(), makeNode(element));
                 }
                 return node;
             }
@@ -212,7 +204,7 @@ Node nodeFromBytes(std::string_view bytes) {
         return Node(node);
     }
     const std::string_view xml = withoutLeadingBlanks(bytes);
-    if (xml.starts_with('<') && isXmlNestingWithinLimit(xml)) {
+    if (xml.starts_with('<') && isXmlNestingWithinLimit(xml) && isXmlSizeWithinLimit(xml)) {
         const PlainLocaleScope plainLocale;
         const std::string terminated(xml);
         plist_from_xml(terminated.c_str(), static_cast<std::uint32_t>(terminated.size()), &node);
@@ -221,6 +213,14 @@ Node nodeFromBytes(std::string_view bytes) {
 }
 
 } // namespace
+
+std::string textAsWritten(const std::string& text) {
+    std::string result = validUtf8(text);
+    for (std::size_t at = result.find('\0'); at != std::string::npos; at = result.find('\0', at)) {
+        result.replace(at, 1, "\uFFFD");
+    }
+    return result;
+}
 
 PropertyData binaryPropertyList(const PropertyList& list) {
     if (containerDepth(list) > kMaximumPropertyListDepth) {

@@ -111,7 +111,26 @@ private:
     std::array<std::size_t, kSpanForms.size()> m_spanEnds{};
 };
 
+constexpr std::size_t kLargestXml = std::size_t{16} << 20U;
+constexpr std::size_t kMostTags = 2'000'000;
+// The keys of all dictionaries together: which of them share one is not told here.
+constexpr std::size_t kMostKeys = 20'000;
+constexpr std::size_t kMostBytesMoved = std::size_t{1} << 30U;
+
+std::size_t occurrences(std::string_view text, std::string_view part) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
 } // namespace
+
+bool isXmlSizeWithinLimit(std::string_view text) {
+    return text.size() <= kLargestXml && occurrences(text, "<") <= kMostTags &&
+           occurrences(text, "<key") <= kMostKeys && occurrences(text, "&") * text.size() <= kMostBytesMoved;
+}
 
 bool isXmlNestingWithinLimit(std::string_view text) { return NestingCount(text).isWithinLimit(); }
 

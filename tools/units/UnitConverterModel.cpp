@@ -2,7 +2,6 @@
 
 #include "calculator/model/Assertion.h"
 #include "platform/files/KeyedArchive.h"
-#include "platform/files/PropertyListFile.h"
 #include "platform/files/Resources.h"
 #include "platform/machine/DocumentsFolder.h"
 #include "platform/text/Log.h"
@@ -56,12 +55,16 @@ std::optional<std::filesystem::path> UnitConverterModel::ucDataFilePath() {
     return documentPath("UnitConverterModelSave");
 }
 
-void UnitConverterModel::load() {
+bool UnitConverterModel::load() {
     const auto path = ucDataFilePath();
-    const auto saved =
-        path ? readDictionaryFile(*path, "the unit converter's file cannot be understood") : std::nullopt;
+    m_file.reset();
+    if (!path) {
+        return false;
+    }
+    m_file.emplace(*path);
+    const auto saved = m_file->read("the unit converter's file cannot be understood").content;
     if (!saved) {
-        return;
+        return false;
     }
     const KeyedUnarchiver coder(*saved);
     m_selectedQuantityName = coder.text(kQuantityKey);
@@ -75,12 +78,19 @@ void UnitConverterModel::load() {
             m_selectedUnitDictionary[quantity] = {*(*pair)[0].asText(), *(*pair)[1].asText()};
         }
     }
+    return true;
 }
 
-void UnitConverterModel::save() const {
+void UnitConverterModel::save() {
     const auto path = ucDataFilePath();
     if (!path) {
         return;
+    }
+    if (!m_file || m_file->path() != *path || !m_file->isAsLastSeen()) {
+        // What this program has not read is not written over; of the choices made meanwhile little is lost.
+        if (load() || !m_file->isAsLastSeen()) {
+            return;
+        }
     }
     KeyedArchiver coder;
     if (m_selectedQuantityName) {
@@ -92,7 +102,7 @@ void UnitConverterModel::save() const {
     }
     coder.encode(kUnitsKey, std::move(units));
     coder.encode(kMoreUnitsKey, m_moreUnits);
-    writePropertyListAtomically(*path, coder.propertyList());
+    m_file->write(*coder.propertyList().asDictionary());
 }
 
 void UnitConverterModel::loadUnitConverterIfNeeded() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/files/KeptFile.h"
 #include "platform/screens/SettingsTargetRegistry.h"
 #include "tools/units/UnitConverter.h"
 
@@ -23,9 +24,11 @@ public:
 
     /// Where the choices are kept; nothing on a machine without a documents folder.
     static std::optional<std::filesystem::path> ucDataFilePath();
-    /// Reads the saved choices. A file that cannot be read or understood is kept under another name.
-    void load();
-    void save() const;
+    /// Reads the saved choices; false when there are none. A file that cannot be understood is kept under
+    /// another name.
+    bool load();
+    /// A file that was not read is read now instead.
+    void save();
 
     void loadUnitConverterIfNeeded();
     void loadUnitConverter();
@@ -64,6 +67,7 @@ private:
     std::optional<std::string> m_selectedQuantityName;
     std::map<std::string, UnitPair> m_selectedUnitDictionary;
     bool m_moreUnits = false;
+    std::optional<KeptFile> m_file;
 };
 
 } // namespace velmora
