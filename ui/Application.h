@@ -40,6 +40,7 @@ public:
 
     QQuickView& window() { return *m_window; }
     VelmoraAppDelegate& delegate() { return m_delegate; }
+    QtAlertPresenter& alerts() { return m_alerts; }
 
 private:
     void followWindow();

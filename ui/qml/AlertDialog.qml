@@ -19,9 +19,8 @@ FocusScope {
         color: "black"
         opacity: 0.55
     }
-    MouseArea {
-        anchors.fill: parent
-        Accessible.ignored: true
+    TapArea {
+        anchors.fill: parent // takes whatever is not on a button
     }
     ArtworkImage {
         anchors.centerIn: parent

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // A button that is only a text, in a bar or a dialog.
 Item {
@@ -29,10 +30,9 @@ Item {
         textFormat: Text.PlainText
         Accessible.ignored: true
     }
-    TapHandler {
+    TapArea {
         id: tap
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        longPressThreshold: 86400
+        anchors.fill: parent
         onTapped: root.pressed()
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // A key. It is pressed when the finger leaves it within its bounds, so sliding off cancels.
 Item {
@@ -15,7 +16,7 @@ Item {
     required property url sign
     required property bool chosen
     required property string spokenName
-    readonly property bool down: chosen || tap.pressed && contains(tap.point.position)
+    readonly property bool down: chosen || tap.pressed
 
     signal pressed()
 
@@ -64,11 +65,9 @@ Item {
         border { width: 2; color: "white" }
         radius: 6
     }
-    TapHandler {
+    TapArea {
         id: tap
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        // However long the finger rested on it.
-        longPressThreshold: 86400
+        anchors.fill: parent
         onTapped: root.pressed()
     }
 }

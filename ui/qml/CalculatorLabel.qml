@@ -80,11 +80,16 @@ Item {
             }
         }
     }
-    TapHandler {
-        onSingleTapped: eventPoint => {
-            root.screen.tapEntryLine(root.x + eventPoint.position.x, root.y + eventPoint.position.y)
+    TapArea {
+        anchors.fill: parent
+        holdable: true
+        onTapped: (position, count) => {
+            if (count === 1) {
+                root.screen.tapEntryLine(root.x + position.x, root.y + position.y)
+            } else if (count === 2) {
+                root.screen.openEditMenu()
+            }
         }
-        onDoubleTapped: root.screen.openEditMenu()
-        onLongPressed: root.screen.openEditMenu()
+        onHeld: root.screen.openEditMenu()
     }
 }

@@ -33,15 +33,18 @@ Text {
         color: Theme.accent
         opacity: 0.3
     }
-    TapHandler {
-        onSingleTapped: label.tapped()
-        onDoubleTapped: eventPoint => label.doubleTapped(eventPoint.position)
-        onLongPressed: label.doubleTapped(point.position)
-    }
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad // a finger has no buttons to tell apart
-        onTapped: eventPoint => label.doubleTapped(eventPoint.position)
+    TapArea {
+        anchors.fill: parent
+        cancelsOnDrag: true
+        holdable: true
+        onTapped: (position, count) => {
+            if (count === 1) {
+                label.tapped()
+            } else if (count === 2) {
+                label.doubleTapped(position)
+            }
+        }
+        onHeld: position => label.doubleTapped(position)
     }
     Loader {
         parent: root.menuParent

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // A menu that offers to copy what lies under a place of the screen. A tap beside it closes it.
 Item {
@@ -10,12 +11,14 @@ Item {
     signal copyChosen()
     signal closed()
 
-    MouseArea {
+    TapArea {
         anchors.fill: parent
-        acceptedButtons: Qt.LeftButton | Qt.RightButton
-        onClicked: root.closed()
-        onWheel: root.closed()
-        Accessible.ignored: true
+        holdable: true
+        onTapped: root.closed()
+        onHeld: root.closed()
+        WheelHandler {
+            onWheel: root.closed()
+        }
     }
     ArtworkImage {
         readonly property real above: root.target.y - height - 10
@@ -40,11 +43,10 @@ Item {
             font.pixelSize: 16
             Accessible.ignored: true
         }
-        MouseArea {
+        TapArea {
             id: press
             anchors.fill: parent
-            onClicked: root.copyChosen()
-            Accessible.ignored: true
+            onTapped: root.copyChosen()
         }
     }
 }

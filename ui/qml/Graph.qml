@@ -59,10 +59,9 @@ FocusScope {
                 }
             }
         }
-        TapHandler {
+        TapArea {
             id: tap
-            gesturePolicy: TapHandler.ReleaseWithinBounds
-            longPressThreshold: 86400
+            anchors.fill: parent
             onTapped: menuButton.press()
         }
     }

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // The invisible button over one end of a row. Dragging from it scrolls the history; resting on it, or the
 // right mouse button, holds it.
@@ -28,19 +29,12 @@ Item {
         color: "white"
         opacity: 0.14
     }
-    TapHandler {
+    TapArea {
         id: tap
-        property bool wasHeld: false
-        onPressedChanged: if (pressed) wasHeld = false
-        onLongPressed: {
-            wasHeld = true
-            root.held()
-        }
-        onTapped: if (!wasHeld) root.tapped()
-    }
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad // a finger has no buttons to tell apart
-        onTapped: root.held()
+        anchors.fill: parent
+        cancelsOnDrag: true
+        holdable: true
+        onTapped: root.tapped()
+        onHeld: root.held()
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // A short message that goes away by itself.
 ArtworkImage {
@@ -32,7 +33,8 @@ ArtworkImage {
         id: leaving
         interval: 3500
     }
-    TapHandler {
+    TapArea {
+        anchors.fill: parent
         onTapped: leaving.stop()
     }
 }

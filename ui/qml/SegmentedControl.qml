@@ -55,8 +55,8 @@ Rectangle {
                     verticalAlignment: Text.AlignVCenter
                     Accessible.ignored: true
                 }
-                TapHandler {
-                    longPressThreshold: 86400
+                TapArea {
+                    anchors.fill: parent
                     onTapped: root.chosen(segment.index)
                 }
             }

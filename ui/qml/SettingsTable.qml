@@ -13,7 +13,8 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         color: Theme.background
-        TapHandler {
+        TapArea {
+            anchors.fill: parent
             onTapped: root.forceActiveFocus() // ends the typing in a field
         }
     }

@@ -45,12 +45,10 @@ TableRow {
             radius: 12
             color: Theme.text
         }
-        MouseArea {
+        TapArea {
             anchors.fill: parent
-            preventStealing: true
-            onPressed: mouse => move(mouse.x)
-            onPositionChanged: mouse => move(mouse.x)
-            function move(x) { root.moved(Math.max(0, Math.min(1, (x - 12) / (width - 24)))) }
+            draggable: true
+            onDragged: position => root.moved(Math.max(0, Math.min(1, (position.x - 12) / (width - 24))))
         }
     }
 }

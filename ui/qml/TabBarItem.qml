@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // A tab: its icon above its title, in the accent colour while it is selected.
 Item {
@@ -35,9 +36,8 @@ Item {
         textFormat: Text.PlainText
         Accessible.ignored: true
     }
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        longPressThreshold: 86400
+    TapArea {
+        anchors.fill: parent
         onTapped: root.pressed()
     }
 }

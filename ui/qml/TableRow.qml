@@ -44,11 +44,11 @@ Rectangle {
         visible: root.activeFocus && (!root.ListView.view || root.ListView.view.worksByKeys)
         color: Theme.accent
     }
-    TapHandler {
+    TapArea {
         id: tap
+        anchors.fill: parent
         enabled: root.selectable
-        gesturePolicy: TapHandler.DragThreshold
-        longPressThreshold: 86400
+        cancelsOnDrag: true
         onTapped: root.tapped()
     }
 }
