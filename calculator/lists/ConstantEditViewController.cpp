@@ -74,11 +74,12 @@ bool ConstantEditViewController::isDefined() const {
 void ConstantEditViewController::deleteConstant() {
     presentAlert({.title = "Delete " + (name().empty() ? plainName() : name()) + "?",
                   .message = "Lines that use it are undefined until it has a value again.",
-                  .buttons = {"Cancel", "Delete"},
-                  .onChosen = [this](int button) {
-                      if (button == 1) {
-                          constants().setExpressionAtIndex(m_slot, ExpressionWithTokenArray(), false);
-                          setName({});
+                  .buttons = {"Delete", "Cancel"},
+                  .onChosen = [page = weak_from_this()](int button) {
+                      const auto self = page.lock(); // the page may be gone before the answer comes
+                      if (self && self->navigationController() && button == 0) {
+                          constants().setExpressionAtIndex(self->m_slot, ExpressionWithTokenArray(), false);
+                          self->setName({});
                       }
                   }});
 }

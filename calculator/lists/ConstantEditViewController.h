@@ -2,12 +2,14 @@
 
 #include "platform/screens/ViewController.h"
 
+#include <memory>
 #include <string>
 
 namespace velmora {
 
 /// One of the user's constants: its name, its value, and a way to delete it.
-class ConstantEditViewController final : public ViewController {
+class ConstantEditViewController final : public ViewController,
+                                         public std::enable_shared_from_this<ConstantEditViewController> {
 public:
     /// The slot in the model's list of constants, from 0.
     explicit ConstantEditViewController(int slot);
@@ -26,7 +28,8 @@ public:
     /// Opens the keyboard on the value.
     void editValue();
     bool isDefined() const;
-    /// Takes away the value and the name, after a question.
+    /// Takes away the value and the name, after a question. Nothing is taken away once the page has been
+    /// left.
     void deleteConstant();
 
     /// Emitted when the name or the value has changed.

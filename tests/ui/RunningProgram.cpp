@@ -169,18 +169,28 @@ void RunningProgram::type(const QString& text) {
 void RunningProgram::scrollTo(const QString& name) {
     static_cast<void>(QTest::qWaitFor([&] { return isOnScreen(name); }, 2000)); // rows come by and by
     const QQuickItem* target = item(name);
-    for (QQuickItem* parent = target != nullptr ? target->parentItem() : nullptr; parent != nullptr;
-         parent = parent->parentItem()) {
-        if (parent->inherits("QQuickFlickable")) {
-            const double top = target->mapToItem(parent, QPointF()).y();
-            const double end = parent->property("originY").toDouble() +
-                               parent->property("contentHeight").toDouble() - parent->height();
-            const double wanted = parent->property("contentY").toDouble() + top - parent->height() / 2;
-            parent->setProperty("contentY", std::clamp(wanted, 0.0, std::max(0.0, end)));
-            settle();
-            return;
-        }
+    QQuickItem* list = target != nullptr ? target->parentItem() : nullptr;
+    while (list != nullptr && !list->inherits("QQuickFlickable")) {
+        list = list->parentItem();
     }
+    if (list == nullptr) {
+        return;
+    }
+    const QRectF view(0, 0, list->width(), list->height());
+    const auto place = [&] {
+        return list->mapFromItem(target, QPointF(target->width(), target->height()) / 2);
+    };
+    // A row that has only just been made gets its place a moment later.
+    static_cast<void>(QTest::qWaitFor(
+        [&] {
+            const double end = list->property("originY").toDouble() +
+                               list->property("contentHeight").toDouble() - list->height();
+            const double wanted = list->property("contentY").toDouble() + place().y() - list->height() / 2;
+            list->setProperty("contentY", std::clamp(wanted, 0.0, std::max(0.0, end)));
+            settle();
+            return view.contains(place());
+        },
+        2000));
 }
 
 void RunningProgram::wheel(QPoint point, int notches) {

@@ -32,6 +32,11 @@ QStringList QtAlertPresenter::buttons() const {
     return texts;
 }
 
+void QtAlertPresenter::cancel() {
+    const QStringList choices = buttons();
+    choose(choices.size() == 1 ? 0 : int(choices.indexOf(QStringLiteral("Cancel"))));
+}
+
 void QtAlertPresenter::choose(int button) {
     if (!isShown() || button < 0 || button >= static_cast<int>(m_alerts.front().buttons.size())) {
         return;

@@ -29,6 +29,8 @@ public:
     QStringList buttons() const;
     /// Answers the alert on screen; an index without a button is ignored.
     Q_INVOKABLE void choose(int button);
+    /// Answers it by its "Cancel", or by its only button; without either it stays.
+    Q_INVOKABLE void cancel();
 
 Q_SIGNALS:
     void changed();

@@ -8,7 +8,15 @@ FocusScope {
     required property QtAlertPresenter alerts
     required property url panelArtwork
 
+    function focusOn(index) {
+        const button = choices.itemAt(index)
+        if (button) {
+            button.forceActiveFocus(Qt.TabFocusReason)
+        }
+    }
+
     focus: true
+    Keys.onEscapePressed: alerts.cancel()
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: alerts.title
@@ -47,6 +55,7 @@ FocusScope {
             }
             Item { width: 1; height: 16 }
             Repeater {
+                id: choices
                 model: root.alerts.buttons
                 delegate: BarTextButton {
                     required property int index
@@ -57,7 +66,10 @@ FocusScope {
                     text: modelData
                     bold: index === 0
                     onPressed: root.alerts.choose(index)
-                    Keys.onEscapePressed: pressed()
+                    Keys.onUpPressed: root.focusOn(index - 1)
+                    Keys.onLeftPressed: root.focusOn(index - 1)
+                    Keys.onDownPressed: root.focusOn(index + 1)
+                    Keys.onRightPressed: root.focusOn(index + 1)
                     Rectangle {
                         width: parent.width
                         height: 0.5

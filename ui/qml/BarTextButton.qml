@@ -12,9 +12,7 @@ Item {
 
     implicitWidth: label.implicitWidth
     activeFocusOnTab: true
-    Keys.onSpacePressed: pressed()
-    Keys.onReturnPressed: pressed()
-    Keys.onEnterPressed: pressed()
+    Keys.forwardTo: tap
 
     Accessible.role: Accessible.Button
     Accessible.name: text
@@ -24,9 +22,11 @@ Item {
     Text {
         id: label
         anchors.centerIn: parent
+        width: Math.min(implicitWidth, root.width)
+        elide: Text.ElideRight
         text: root.text
         color: !root.enabled ? "#8b929c" : tap.pressed ? "#cfe2ff" : "#8fbcff"
-        font { pixelSize: 17; bold: root.bold; underline: root.activeFocus }
+        font { pixelSize: 17; bold: root.bold; underline: root.activeFocus && FocusMarks.shown }
         textFormat: Text.PlainText
         Accessible.ignored: true
     }

@@ -60,7 +60,7 @@ Item {
     }
     Rectangle {
         anchors { fill: parent; margins: 1.5 }
-        visible: root.activeFocus
+        visible: root.activeFocus && FocusMarks.shown
         color: "transparent"
         border { width: 2; color: "white" }
         radius: 6

@@ -44,7 +44,7 @@ FocusScope {
             height: 30
             radius: 15
             color: tap.pressed ? "#c03d6fb0" : "#a0606874"
-            border { width: menuButton.activeFocus ? 2 : 0; color: Theme.accent }
+            border { width: menuButton.activeFocus && FocusMarks.shown ? 2 : 0; color: Theme.accent }
             Row {
                 anchors.centerIn: parent
                 spacing: 3

@@ -76,7 +76,9 @@ FocusScope {
     Notice {
         id: notice
         panelArtwork: root.screen.panelArtwork
-        width: parent.width - 32
-        anchors { horizontalCenter: parent.horizontalCenter; bottom: entryLine.top; bottomMargin: 8 }
+        // The oldest rows in view, or else what lies below the line: never the newest row, the line or a bar.
+        area: root.screen.historyFrame.height > 0
+            ? root.screen.historyFrame
+            : Qt.rect(0, entryLine.y + entryLine.height, root.width, root.height - entryLine.y - entryLine.height)
     }
 }

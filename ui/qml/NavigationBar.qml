@@ -17,6 +17,7 @@ Rectangle {
         spacing: 16
         BarTextButton {
             visible: root.navigation.backTitle !== ""
+            width: Math.min(implicitWidth, 0.4 * root.width) // a long one leaves room for the title
             height: parent.height
             text: "‹ " + root.navigation.backTitle
             Accessible.name: qsTr("Back to %1").arg(root.navigation.backTitle)
@@ -35,7 +36,13 @@ Rectangle {
         }
     }
     Text {
-        anchors { left: left.right; right: right.left; leftMargin: 8; rightMargin: 8; verticalCenter: parent.verticalCenter }
+        readonly property real first: left.width > 0 ? left.x + left.width + 8 : 12
+        readonly property real last: right.width > 0 ? right.x - 8 : root.width - 12
+
+        // In the middle of the bar, as far as the buttons leave it there.
+        x: Math.max(first, Math.min((root.width - width) / 2, last - width))
+        width: Math.min(implicitWidth, last - first)
+        anchors.verticalCenter: parent.verticalCenter
         text: root.navigation.title
         color: "white"
         font { pixelSize: 17; bold: true }
@@ -43,7 +50,6 @@ Rectangle {
         minimumPixelSize: 11
         elide: Text.ElideRight
         textFormat: Text.PlainText
-        horizontalAlignment: Text.AlignHCenter
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }

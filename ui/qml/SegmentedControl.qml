@@ -33,10 +33,9 @@ Rectangle {
                 height: root.height - 4
                 radius: 6
                 color: isCurrent ? Theme.chosen : "transparent"
-                border { width: activeFocus ? 1.5 : 0; color: Theme.accent }
+                border { width: activeFocus && FocusMarks.shown ? 1.5 : 0; color: Theme.accent }
                 activeFocusOnTab: true
-                Keys.onSpacePressed: root.chosen(index)
-                Keys.onReturnPressed: root.chosen(index)
+                Keys.forwardTo: tap
                 Accessible.role: Accessible.RadioButton
                 Accessible.name: modelData
                 Accessible.checkable: true
@@ -56,6 +55,7 @@ Rectangle {
                     Accessible.ignored: true
                 }
                 TapArea {
+                    id: tap
                     anchors.fill: parent
                     onTapped: root.chosen(segment.index)
                 }

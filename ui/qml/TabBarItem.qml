@@ -13,7 +13,7 @@ Item {
     signal pressed()
 
     activeFocusOnTab: true
-    Keys.onSpacePressed: pressed()
+    Keys.forwardTo: tap
 
     Accessible.role: Accessible.PageTab
     Accessible.name: title
@@ -32,11 +32,12 @@ Item {
         anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: 4 }
         text: root.title
         color: root.selected ? "white" : "#a7aeb8"
-        font { pixelSize: 11; underline: root.activeFocus }
+        font { pixelSize: 11; underline: root.activeFocus && FocusMarks.shown }
         textFormat: Text.PlainText
         Accessible.ignored: true
     }
     TapArea {
+        id: tap
         anchors.fill: parent
         onTapped: root.pressed()
     }

@@ -5,8 +5,6 @@ import Velmora
 ListView {
     id: root
 
-    property bool worksByKeys: false // since a key was pressed on one of its rows
-
     // In points from the start, 0 at the top. The way there is taken in steps of less than a screen, so that
     // every row is made and measured; after a leap the list would only estimate where its rows stand.
     function scrollPosition() { return contentY - originY + topMargin }

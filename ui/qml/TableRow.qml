@@ -16,15 +16,7 @@ Rectangle {
 
     color: selectable && tap.pressed ? Theme.pressed : Theme.surface
     activeFocusOnTab: selectable
-    Keys.onPressed: event => {
-        if (ListView.view) {
-            ListView.view.worksByKeys = true
-        }
-        event.accepted = false
-    }
-    Keys.onSpacePressed: if (selectable) tapped()
-    Keys.onReturnPressed: if (selectable) tapped()
-    Keys.onEnterPressed: if (selectable) tapped()
+    Keys.forwardTo: tap
 
     Accessible.role: spokenRole
     Accessible.name: spokenName
@@ -40,8 +32,7 @@ Rectangle {
     Rectangle {
         anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
         width: 3
-        // Who touches does not need to be shown where the focus is.
-        visible: root.activeFocus && (!root.ListView.view || root.ListView.view.worksByKeys)
+        visible: root.activeFocus && FocusMarks.shown
         color: Theme.accent
     }
     TapArea {

@@ -1,6 +1,7 @@
 #include "ui/touch/TapArea.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLineF>
 #include <QMouseEvent>
 #include <QStyleHints>
@@ -171,6 +172,18 @@ void TapArea::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 void TapArea::mouseUngrabEvent() {
     if (m_press && !m_press->isTouch) {
         cancel();
+    }
+}
+
+void TapArea::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    if (!isEnabled() || (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter)) {
+        event->ignore();
+        return;
+    }
+    // A key that is held repeats itself, and would answer the question that its first press has asked.
+    if (!event->isAutoRepeat()) {
+        Q_EMIT tapped(QPointF(width(), height()) / 2, 1);
     }
 }
 

@@ -12,6 +12,8 @@ namespace velmora {
 /// list around it may take the press away to scroll. (Qt's own tap handlers share their grabs, and Qt 6.4
 /// follows such a grab to a handler that is gone once several fingers change in one frame.)
 ///
+/// Keys forwarded to it tap it as well: Space, Return and Enter, once for each time they go down.
+///
 /// A press ends in a tap when it is released inside, however long it lasted. It is canceled when something
 /// else takes it, when the area is hidden or disabled meanwhile (an alert disables all that it covers), and
 /// with cancelsOnDrag when it moves further than a resting finger does.
@@ -53,6 +55,7 @@ protected:
     /// A double click comes after the press that it is, so there is nothing left to do.
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseUngrabEvent() override;
+    void keyPressEvent(QKeyEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 

@@ -234,12 +234,24 @@ TEST_F(FunctionSelectTest, ownConstantsAreDefinedNamedChangedAndDeleted) {
     press("=");
     EXPECT_EQ(history().back(), "rate = 3.5");
 
-    ConstantEditViewController again(2);
-    alerts.clear();
-    again.deleteConstant();
-    EXPECT_TRUE(again.isDefined()) << "only after a question";
-    alerts.choose(1);
-    EXPECT_FALSE(again.isDefined());
+    const auto openEditor = [&] {
+        auto opened = std::make_shared<ConstantEditViewController>(2);
+        stack->push(opened);
+        alerts.clear();
+        opened->deleteConstant();
+        return opened;
+    };
+    auto left = openEditor();
+    stack->pop();
+    stack->push(std::make_shared<OtherScreen>());
+    stack->pop(); // nothing keeps the page alive any more
+    left.reset();
+    alerts.choose(0);
+    EXPECT_EQ(Model::m().constants().fullFunctionNameWithIndex(2), "rate") << "its question asks no more";
+    const auto again = openEditor();
+    EXPECT_TRUE(again->isDefined()) << "only after a question";
+    alerts.choose(0);
+    EXPECT_FALSE(again->isDefined());
     EXPECT_EQ(Model::m().history().entryAtIndex(0)->resultText(), "3.5");
 }
 
