@@ -1,5 +1,6 @@
 #include "calculator/lists/FunctionSelectViewController.h"
 
+#include "calculator/keyboard/CalculatorOfScreen.h"
 #include "calculator/keyboard/KeyboardViewController.h"
 #include "calculator/lists/ConstantEditViewController.h"
 #include "calculator/lists/FunctionListTrimming.h"
@@ -7,7 +8,6 @@
 #include "engine/lines/Token.h"
 #include "platform/screens/NavigationController.h"
 #include "platform/screens/ScreenRegistry.h"
-#include "platform/screens/TabBarController.h"
 #include "platform/text/Log.h"
 
 namespace velmora {
@@ -68,32 +68,6 @@ FunctionListRow rowOfEntry(const PropertyList& entry) {
     }
     return rowOfText(content.asText() ? *content.asText() : std::string(),
                      hint.asText() ? *hint.asText() : std::string());
-}
-
-/// The calculator below the list on its stack.
-std::shared_ptr<KeyboardViewController> calculatorIn(const NavigationController* stack) {
-    if (!stack) {
-        return nullptr;
-    }
-    const auto& screens = stack->viewControllers();
-    for (auto screen = screens.rbegin(); screen != screens.rend(); ++screen) {
-        if (auto calculator = std::dynamic_pointer_cast<KeyboardViewController>(*screen)) {
-            return calculator;
-        }
-    }
-    return nullptr;
-}
-
-/// The calculator tab's, which is brought on display.
-std::shared_ptr<KeyboardViewController> calculatorOfTabs() {
-    const auto tabBar = Model::m().tabBarController();
-    const auto tab =
-        tabBar && !tabBar->viewControllers().empty() ? tabBar->viewControllers().front() : nullptr;
-    auto calculator = calculatorIn(dynamic_cast<const NavigationController*>(tab.get()));
-    if (calculator) {
-        tabBar->setSelectedIndex(0);
-    }
-    return calculator;
 }
 
 } // namespace
@@ -188,14 +162,8 @@ void FunctionSelectViewController::push(std::shared_ptr<ViewController> screen) 
 }
 
 void FunctionSelectViewController::insert(const std::string& text) {
-    NavigationController* stack = navigationController();
-    if (const auto below = calculatorIn(stack)) {
-        below->functionSelected(text);
-        stack->popTo(*below);
-    } else if (const auto calculator = calculatorOfTabs()) {
-        calculator->functionSelected(text);
-        calculator->navigationController()->popTo(*calculator);
-    } else {
+    const auto select = [&](KeyboardViewController& calculator) { calculator.functionSelected(text); };
+    if (!returnToCalculator(navigationController(), select)) {
         log("no calculator line for " + text);
     }
 }

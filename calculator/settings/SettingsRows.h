@@ -12,6 +12,7 @@ namespace velmora {
 inline constexpr int kSettingsSectionCount = 8;
 inline constexpr int kPolarRangeSection = 3;
 inline constexpr int kParametricRangeSection = 4;
+inline constexpr int kUnitConverterSection = 6;
 
 /// The section with the row that edits a property; kSettingsSectionCount when none does.
 int settingsSectionOfKey(std::string_view key);

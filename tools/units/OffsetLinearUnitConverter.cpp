@@ -42,7 +42,7 @@ OffsetLinearUnitConverter::OffsetLinearUnitConverter(const std::vector<std::stri
                                                      std::vector<double> zeroOffsets)
     : UnitConverter(array), m_zeroOffsets(std::move(zeroOffsets)) {}
 
-double OffsetLinearUnitConverter::quantity(double q, int fromUnit, int toUnit) const {
+double OffsetLinearUnitConverter::quantityByFormula(double q, int fromUnit, int toUnit) const {
     if (!isUnit(fromUnit) || !isUnit(toUnit)) {
         return std::numeric_limits<double>::quiet_NaN();
     }
@@ -53,6 +53,19 @@ double OffsetLinearUnitConverter::quantity(double q, int fromUnit, int toUnit) c
         m_zeroOffsets[target];
     const bool vanishes = q == kFreezingFahrenheit && std::abs(static_cast<float>(result)) < kRoundingError;
     return vanishes ? 0 : result;
+}
+
+double OffsetLinearUnitConverter::roundingError(double q, int fromUnit, int toUnit) const {
+    const double error = UnitConverter::roundingError(q, fromUnit, toUnit);
+    if (!isUnit(fromUnit) || !isUnit(toUnit)) {
+        return error;
+    }
+    const double zeroOfSource = m_zeroOffsets[static_cast<std::size_t>(fromUnit)];
+    const double zeroOfTarget = m_zeroOffsets[static_cast<std::size_t>(toUnit)];
+    const double subtracted = (std::abs(q) + std::abs(zeroOfSource)) * oneOfUnitAtIndex(fromUnit, toUnit);
+    constexpr double roundingSteps = 2;
+    return error +
+           roundingSteps * std::numeric_limits<double>::epsilon() * (subtracted + std::abs(zeroOfTarget));
 }
 
 } // namespace velmora

@@ -14,9 +14,13 @@ public:
     static std::unique_ptr<UnitConverter> newConverterWithArray(const std::vector<std::string>& array);
 
     const std::vector<double>& zeroOffsets() const { return m_zeroOffsets; }
+
+protected:
     /// NaN out of range. Of an input of exactly 32 a result that is only a rounding error becomes 0, for
     /// that is how people try 32 °F; intended, although it holds for 32 of any unit of the quantity.
-    double quantity(double q, int fromUnit, int toUnit) const override;
+    double quantityByFormula(double q, int fromUnit, int toUnit) const override;
+    /// What is lost where the zeros of the scales are subtracted counts too.
+    double roundingError(double q, int fromUnit, int toUnit) const override;
 
 private:
     OffsetLinearUnitConverter(const std::vector<std::string>& array, std::vector<double> zeroOffsets);

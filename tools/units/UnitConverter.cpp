@@ -6,7 +6,10 @@
 #include "platform/text/Log.h"
 #include "tools/units/OffsetLinearUnitConverter.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace velmora {
@@ -14,6 +17,27 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t kFirstUnit = 2; // behind the quantity and its main unit
+constexpr int kTypedDigits = 14;      // of the longest number that people are expected to type
+constexpr double kRoundingSteps = 4;  // more than a quotient, a product and their factors lose
+
+/// The number with the fewest significant decimal digits, at most kTypedDigits, that lies so near to the
+/// value; the value itself where there is none.
+double shortestWithin(double value, double error) {
+    if (!std::isfinite(value)) {
+        return value;
+    }
+    for (int decimals = 0; decimals < kTypedDigits; ++decimals) { // behind the first digit
+        std::array<char, 32> text{};
+        char* const end = text.data() + text.size();
+        const auto written = std::to_chars(text.data(), end, value, std::chars_format::scientific, decimals);
+        double candidate = value;
+        std::from_chars(text.data(), written.ptr, candidate);
+        if (std::abs(candidate - value) <= error) {
+            return candidate;
+        }
+    }
+    return value;
+}
 
 /// What stands before and behind the first mark; all of it and nothing where there is no mark.
 std::pair<std::string_view, std::optional<std::string_view>> splitAt(std::string_view text, char mark) {
@@ -103,8 +127,22 @@ double UnitConverter::oneOfUnitAtIndex(int from, int to) const {
            m_unitConversions[static_cast<std::size_t>(to)];
 }
 
-double UnitConverter::quantity(double q, int fromUnit, int toUnit) const {
+double UnitConverter::quantityByFormula(double q, int fromUnit, int toUnit) const {
     return q * oneOfUnitAtIndex(fromUnit, toUnit);
+}
+
+double UnitConverter::roundingError(double q, int fromUnit, int toUnit) const {
+    return kRoundingSteps * std::numeric_limits<double>::epsilon() *
+           std::abs(quantityByFormula(q, fromUnit, toUnit));
+}
+
+double UnitConverter::quantity(double q, int fromUnit, int toUnit) const {
+    const double result = quantityByFormula(q, fromUnit, toUnit);
+    const double candidate = shortestWithin(result, roundingError(q, fromUnit, toUnit));
+    // The way back has to agree, or a result that only happens to lie near a short number would lead astray.
+    const double back = quantityByFormula(candidate, toUnit, fromUnit);
+    const bool isMeant = std::abs(back - q) <= roundingError(candidate, toUnit, fromUnit);
+    return isMeant ? candidate : result;
 }
 
 } // namespace velmora

@@ -42,12 +42,19 @@ public:
     std::optional<std::string> nameForQuantity(double quantity, int index) const;
     /// How many of the other unit one of the unit is; 0 out of range.
     double oneOfUnitAtIndex(int from, int to) const;
-    /// So much of the one unit, in the other; 0 out of range.
-    virtual double quantity(double q, int fromUnit, int toUnit) const;
+    /// So much of the one unit, in the other; 0 out of range. A rounding error that hides a number of at most
+    /// 14 digits is taken away, so that 3600000 joules are 1 kilowatt-hour (3600000 has no reciprocal in
+    /// doubles whose product with it is 1, whatever the factors), and what is converted there and back is
+    /// the number that was typed.
+    double quantity(double q, int fromUnit, int toUnit) const;
 
 protected:
     explicit UnitConverter(const std::vector<std::string>& array);
     bool isUnit(int index) const { return index >= 0 && index < static_cast<int>(m_unitNames.size()); }
+    /// The conversion operation by operation; 0 or NaN out of range.
+    virtual double quantityByFormula(double q, int fromUnit, int toUnit) const;
+    /// How far rounding may have moved that result.
+    virtual double roundingError(double q, int fromUnit, int toUnit) const;
 
 private:
     void addUnit(std::string_view text);
