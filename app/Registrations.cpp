@@ -12,6 +12,8 @@
 #include "platform/files/SavingRegistry.h"
 #include "platform/screens/ScreenRegistry.h"
 #include "platform/screens/SettingsTargetRegistry.h"
+#include "tools/dates/DateCalculatorViewController.h"
+#include "tools/units/UnitConvertViewController.h"
 #include "tools/units/UnitConverterModel.h"
 
 namespace velmora {
@@ -28,6 +30,7 @@ struct ScreenRow {
 /// The screens that are opened by name, in alphabetical order: a new screen is one line here, and one in
 /// ui/adapters/ScreenAdapters.cpp for what shows it.
 constexpr ScreenRow kScreens[] = {
+    {"DateCalculatorViewController", make<DateCalculatorViewController>},
     {"EquationsViewController", make<EquationsViewController>},
     {"FunctionSelectViewController", make<FunctionSelectViewController>},
     {"GraphViewController", make<GraphViewController>},
@@ -35,6 +38,7 @@ constexpr ScreenRow kScreens[] = {
     {"ParametricEquationsViewController", make<ParametricEquationsViewController>},
     {"RangeViewController", make<RangeViewController>},
     {"SettingsViewController", make<SettingsViewController>},
+    {"UnitConvertViewController", make<UnitConvertViewController>},
 };
 
 } // namespace

@@ -27,6 +27,7 @@ packages_run=(
     qml6-module-qtqml
     qml6-module-qtqml-workerscript
     qml6-module-qtquick
+    qml6-module-qtquick-templates
     qml6-module-qtquick-window
 )
 

@@ -1,10 +1,12 @@
 // The lists and pages that ship with the program: everything in them can be used.
 
+#include "app/Registrations.h"
 #include "calculator/lists/FunctionList.h"
 #include "engine/functions/BivarTable.h"
 #include "engine/functions/UnivarTable.h"
 #include "platform/files/KeyedArchive.h"
 #include "platform/files/Resources.h"
+#include "platform/screens/ScreenRegistry.h"
 #include "resources/CompiledResources.h"
 #include "tests/engine/TokenLine.h"
 #include "tests/engine/UlpDistance.h"
@@ -44,7 +46,10 @@ bool isInserted(const std::string& content) {
 
 class ListResources : public testing::Test {
 protected:
-    ListResources() { registerCompiledResources(); }
+    ListResources() {
+        registerCompiledResources();
+        registerEverything();
+    }
 };
 
 TEST_F(ListResources, areWellFormedAndExplained) {
@@ -62,7 +67,11 @@ TEST_F(ListResources, areWellFormedAndExplained) {
             // The notes open from a row of the settings that is hidden, so the help must lead there too.
             const auto at = content.find("||");
             if (at != std::string::npos && name != std::string("ComplexNumbersImplementationNotes")) {
-                opened.insert(content.substr(at + 2));
+                const std::string screen = content.substr(at + 2);
+                EXPECT_TRUE(ScreenRegistry::shared().isRegistered(screen)) << screen;
+                if (screen.ends_with("Page")) {
+                    opened.insert(screen);
+                }
             }
         }
     }

@@ -9,7 +9,10 @@
 #include "platform/text/Log.h"
 #include "toolkit/OrvPickTableViewController.h"
 #include "toolkit/OrvSettingsTableViewController.h"
+#include "tools/dates/DateCalculatorViewController.h"
+#include "tools/units/UnitConvertViewController.h"
 #include "ui/adapters/ConstantEditAdapter.h"
+#include "ui/adapters/DateCalculatorAdapter.h"
 #include "ui/adapters/EquationsAdapter.h"
 #include "ui/adapters/FunctionSelectAdapter.h"
 #include "ui/adapters/GraphAdapter.h"
@@ -17,6 +20,7 @@
 #include "ui/adapters/PageAdapter.h"
 #include "ui/adapters/PickTableAdapter.h"
 #include "ui/adapters/SettingsTableAdapter.h"
+#include "ui/adapters/UnitConvertAdapter.h"
 
 namespace velmora {
 
@@ -40,6 +44,8 @@ constexpr std::unique_ptr<QObject> (*kMakers[])(const ControllerPointer&, SceneA
     make<GraphViewController, GraphAdapter>,
     make<OrvSettingsTableViewController, SettingsTableAdapter>,
     make<OrvPickTableViewController, PickTableAdapter>,
+    make<UnitConvertViewController, UnitConvertAdapter>,
+    make<DateCalculatorViewController, DateCalculatorAdapter>,
 };
 
 } // namespace

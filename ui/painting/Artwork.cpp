@@ -4,7 +4,9 @@
 #include "ui/painting/KeyColors.h"
 #include "ui/painting/SystemFont.h"
 
+#include <QFile>
 #include <QImage>
+#include <QImageReader>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -81,6 +83,21 @@ void drawRoot(const Canvas& canvas) {
     pen.setWidthF(1.5);
     canvas.painter.setPen(pen);
     canvas.painter.drawPath(radicand);
+}
+
+/// Draws a picture that stands in a file, centred in the area. The reader of such files is only loaded when
+/// the first picture is shown.
+bool drawPicture(QStringView name, const Canvas& canvas) {
+    const QString file = QStringLiteral(":/pictures/%1.svg").arg(name);
+    if (!QFile::exists(file)) {
+        return false;
+    }
+    const double side = std::min(canvas.area.width(), canvas.area.height());
+    QImageReader reader(file, "svg");
+    reader.setScaledSize(QSize(qRound(side), qRound(side)));
+    const QImage picture = reader.read();
+    canvas.painter.drawImage(canvas.area.center() - QPointF(side / 2, side / 2), picture);
+    return !picture.isNull();
 }
 
 /// Thin round lines in the unit square, for outlines.
@@ -239,6 +256,9 @@ bool draw(QStringView name, const Canvas& canvas) {
         std::ranges::find_if(kDrawings, [&](const Drawing& row) { return name == row.name; });
     if (drawing != kDrawings.end()) {
         drawing->draw(canvas);
+        return true;
+    }
+    if (drawPicture(name, canvas)) {
         return true;
     }
     const QLatin1String pressedSuffix(kPressedSuffix);

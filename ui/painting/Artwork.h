@@ -10,7 +10,8 @@ namespace velmora {
 /// Drawn at the size in which it is shown, so it is sharp at every scale:
 ///   "button" and a colour class, "buttonBTall": the face of a key, with kPressedSuffix while it is pressed;
 ///   "panel": the rounded ground of what floats over a screen;
-///   "root", "calculator.png": signs, in white.
+///   "root", "calculator.png": signs, in white;
+///   "lengthicon", "swap": the picture in the file of that name in resources/pictures.
 /// An "@2x" in a name asks for what is done here anyway and is left out.
 inline constexpr const char* kPressedSuffix = "-pressed";
 

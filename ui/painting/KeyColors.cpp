@@ -21,6 +21,8 @@ const std::array kKeyColors{
     KeyColor{QLatin1String("buttong"), 0xff86404a},     // editing
     KeyColor{QLatin1String("buttons"), 0xff1c6f76},     // root
     KeyColor{QLatin1String("buttonh"), 0xff6a4ea0},     // variables beside π
+    KeyColor{QLatin1String("buttonr"), 0xff5b626c},     // the zero of a keypad
+    KeyColor{QLatin1String("buttonk"), 0xff2f62a8},     // the ways out of a keypad
     KeyColor{QLatin1String("buttonj"), 0xff8a4590},     // variables and signs of inequality
 };
 
