@@ -13,6 +13,9 @@
 #include "platform/screens/ScreenRegistry.h"
 #include "platform/screens/SettingsTargetRegistry.h"
 #include "tools/dates/DateCalculatorViewController.h"
+#include "tools/kept/KeptTexts.h"
+#include "tools/solvers/PolynomialSolverViewController.h"
+#include "tools/triangle/TriangleSolverViewController.h"
 #include "tools/units/UnitConvertViewController.h"
 #include "tools/units/UnitConverterModel.h"
 
@@ -21,6 +24,10 @@ namespace velmora {
 namespace {
 
 template <class Screen> std::shared_ptr<ViewController> make() { return std::make_shared<Screen>(); }
+
+template <int degree> std::shared_ptr<ViewController> makeSolver() {
+    return std::make_shared<PolynomialSolverViewController>(degree);
+}
 
 struct ScreenRow {
     const char* name;
@@ -31,14 +38,19 @@ struct ScreenRow {
 /// ui/adapters/ScreenAdapters.cpp for what shows it.
 constexpr ScreenRow kScreens[] = {
     {"DateCalculatorViewController", make<DateCalculatorViewController>},
+    {"CubicSolverViewController", makeSolver<3>},
     {"EquationsViewController", make<EquationsViewController>},
     {"FunctionSelectViewController", make<FunctionSelectViewController>},
     {"GraphViewController", make<GraphViewController>},
     {"KeyboardViewController", make<KeyboardViewController>},
+    {"LinearSolverViewController", makeSolver<1>},
     {"ParametricEquationsViewController", make<ParametricEquationsViewController>},
+    {"PolynomialSolversViewController", newPolynomialSolversViewController},
+    {"QuadraticSolverViewController", makeSolver<2>},
     {"RangeViewController", make<RangeViewController>},
     {"SettingsViewController", make<SettingsViewController>},
     {"UnitConvertViewController", make<UnitConvertViewController>},
+    {"TriangleSolverViewController", make<TriangleSolverViewController>},
 };
 
 } // namespace
@@ -50,6 +62,7 @@ void registerEverything() {
     registerPages();
     SettingsTargetRegistry::shared().registerTarget("Model", Model::m());
     SettingsTargetRegistry::shared().registerTarget("UnitConverterModel", UnitConverterModel::ucm());
+    SavingRegistry::shared().registerSaver("KeptTexts", KeptTexts::saveAll);
     SavingRegistry::shared().registerSaver("UnitConverterModel", [] { UnitConverterModel::ucm().save(); });
 }
 

@@ -10,6 +10,8 @@
 #include "toolkit/OrvPickTableViewController.h"
 #include "toolkit/OrvSettingsTableViewController.h"
 #include "tools/dates/DateCalculatorViewController.h"
+#include "tools/solvers/PolynomialSolverViewController.h"
+#include "tools/triangle/TriangleSolverViewController.h"
 #include "tools/units/UnitConvertViewController.h"
 #include "ui/adapters/ConstantEditAdapter.h"
 #include "ui/adapters/DateCalculatorAdapter.h"
@@ -19,7 +21,9 @@
 #include "ui/adapters/KeyboardScreenAdapter.h"
 #include "ui/adapters/PageAdapter.h"
 #include "ui/adapters/PickTableAdapter.h"
+#include "ui/adapters/PolynomialSolverAdapter.h"
 #include "ui/adapters/SettingsTableAdapter.h"
+#include "ui/adapters/TriangleSolverAdapter.h"
 #include "ui/adapters/UnitConvertAdapter.h"
 
 namespace velmora {
@@ -42,6 +46,8 @@ constexpr std::unique_ptr<QObject> (*kMakers[])(const ControllerPointer&, SceneA
     make<PageViewController, PageAdapter>,
     make<GenericEquationsViewController, EquationsAdapter>,
     make<GraphViewController, GraphAdapter>,
+    make<PolynomialSolverViewController, PolynomialSolverAdapter>,
+    make<TriangleSolverViewController, TriangleSolverAdapter>,
     make<OrvSettingsTableViewController, SettingsTableAdapter>,
     make<OrvPickTableViewController, PickTableAdapter>,
     make<UnitConvertViewController, UnitConvertAdapter>,

@@ -204,6 +204,27 @@ void drawSettings(const Canvas& canvas) {
     }
 }
 
+void drawTriangleSolver(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    painter.drawPolygon(QPolygonF({QPointF(3, 19.5), QPointF(21, 19.5), QPointF(15.5, 4.5)}));
+    QPainterPath angle(QPointF(8.4, 19.5)); // of the corner at the left
+    angle.quadTo(QPointF(8.4, 17.3), QPointF(7.1, 14.6));
+    painter.drawPath(angle);
+}
+
+void drawPolynomialSolver(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    painter.drawLine(QPointF(2.5, 13), QPointF(21.5, 13));
+    QPainterPath curve(QPointF(3.5, 20.5));
+    curve.cubicTo(8, -6, 11, 6, 13, 13);
+    curve.cubicTo(15, 20, 18, 20, 20.5, 4);
+    painter.drawPath(curve);
+    painter.setBrush(Qt::white);
+    for (const double x : {5.3, 13.0, 18.9}) {
+        painter.drawEllipse(QPointF(x, 13), 1.4, 1.4);
+    }
+}
+
 void drawHeart(const Canvas& canvas) {
     QPainter& painter = useLinePen(canvas);
     QPainterPath heart(QPointF(12, 7.6));
@@ -245,6 +266,8 @@ const std::array kDrawings{
     Drawing{QLatin1String("equation.png"), drawEquation},
     Drawing{QLatin1String("graph.png"), drawGraph},
     Drawing{QLatin1String("reference.png"), drawReference},
+    Drawing{QLatin1String("triangleSolver.png"), drawTriangleSolver},
+    Drawing{QLatin1String("polynomialSolver.png"), drawPolynomialSolver},
     Drawing{QLatin1String("settings.png"), drawSettings},
     Drawing{QLatin1String("heart"), drawHeart},
     Drawing{QLatin1String("questionMark.png"), drawQuestionMark},
