@@ -2,7 +2,7 @@
 
 namespace velmora {
 
-/// Makes the property lists of this folder known to findResource under their file names ("Units.plist").
+/// Makes the files of this folder known to findResource under their names ("Units.plist").
 void registerCompiledResources();
 
 } // namespace velmora

@@ -1,8 +1,7 @@
 #include "calculator/pages/PageViewController.h"
 
 #include "calculator/model/Model.h"
-#include "platform/files/KeyedArchive.h"
-#include "platform/files/Resources.h"
+#include "platform/machine/Device.h"
 #include "platform/screens/ScreenRegistry.h"
 #include "platform/text/Log.h"
 
@@ -10,27 +9,33 @@ namespace velmora {
 
 namespace {
 
-constexpr const char* kPagesResource = "Pages.plist";
+constexpr double kLargeTextScale = 1.25;
 
 } // namespace
 
+double PageViewController::textScale() {
+    const bool isPhone = currentDevice().deviceClass() == DeviceClass::Phone;
+    return isPhone && Model::m().largeFontsOnPhone() ? kLargeTextScale : 1;
+}
+
 void PageViewController::viewDidLoad() {
-    const auto pages = readPropertyListResource(kPagesResource);
-    const KeyedUnarchiver all(pages.value_or(PropertyList()));
-    const PropertyList* saved = all.value(m_pageName);
-    if (!saved) {
-        log("no page " + m_pageName);
-        return;
-    }
-    const KeyedUnarchiver page(*saved);
-    setTitle(page.text("title").value_or(m_pageName));
-    const PropertyArray* content = page.array("content");
-    for (const PropertyList& item : content ? *content : PropertyArray()) {
-        const KeyedUnarchiver paragraph(item);
-        if (const auto heading = paragraph.text("heading")) {
-            m_paragraphs.push_back({*heading, true});
-        } else if (const auto text = paragraph.text("text")) {
-            m_paragraphs.push_back({*text, false});
+    Page page = loadPage(m_pageName);
+    setTitle(page.title.empty() ? m_pageName : page.title);
+    std::vector<FormulaArtwork> formulas = loadFormulaArtwork(m_pageName);
+    auto nextFormula = formulas.begin();
+    for (PageItem& item : page.items) {
+        Row& row = m_rows.emplace_back(Row{std::move(item)});
+        if (row.item.kind == PageItem::Kind::Figure) {
+            row.figure = loadFigure(row.item.text);
+        } else if (row.item.kind == PageItem::Kind::Formula) {
+            if (nextFormula == formulas.end() || nextFormula->texHash != hashOfTex(row.item.text)) {
+                log("no artwork of the formula " + row.item.text);
+                continue;
+            }
+            row.formula = std::move(*nextFormula++);
+            if (!row.item.spoken.empty()) {
+                row.formula.spoken = row.item.spoken;
+            }
         }
     }
 }
@@ -40,11 +45,9 @@ bool PageViewController::shouldAutorotate(Orientation orientation) const {
 }
 
 void registerPages() {
-    const auto pages = readPropertyListResource(kPagesResource);
-    const PropertyDictionary* names = pages ? pages->asDictionary() : nullptr;
-    for (const auto& [name, page] : names ? *names : PropertyDictionary()) {
+    for (const std::string& name : pageNames()) {
         ScreenRegistry::shared().registerScreen(
-            name, [pageName = name] { return std::make_shared<PageViewController>(pageName); });
+            name + "Page", [name] { return std::make_shared<PageViewController>(name); });
     }
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "calculator/pages/Figure.h"
+#include "calculator/pages/FormulaArtwork.h"
+#include "calculator/pages/Page.h"
 #include "platform/screens/ViewController.h"
 
 #include <string>
@@ -7,13 +10,15 @@
 
 namespace velmora {
 
-/// A page of text to read. All pages stand in the resource "Pages.plist": a dictionary of page names, each
-/// with a "title" and a "content", an array of dictionaries with one key, "heading" or "text".
+/// A page of text, formulas and figures to read (see Page.h). Its drawings are read when it is opened and
+/// forgotten with it.
 class PageViewController final : public ViewController {
 public:
-    struct Paragraph {
-        std::string text;
-        bool isHeading = false;
+    /// An item with what is drawn for it.
+    struct Row {
+        PageItem item;
+        FormulaArtwork formula{}; ///< of a formula
+        Figure figure{};          ///< of a figure
     };
 
     explicit PageViewController(std::string pageName) : m_pageName(std::move(pageName)) {}
@@ -21,17 +26,21 @@ public:
     std::string className() const override { return "PageViewController"; }
     std::string qmlFile() const override { return "Page.qml"; }
     const std::string& pageName() const { return m_pageName; }
-    const std::vector<Paragraph>& paragraphs() const { return m_paragraphs; }
+    const std::vector<Row>& rows() const { return m_rows; }
+    GlyphOutlines& outlines() { return m_outlines; }
+    /// How much larger than usual the texts are: by the user's choice of large fonts, on a phone.
+    static double textScale();
 
     void viewDidLoad() override;
     bool shouldAutorotate(Orientation orientation) const override;
 
 private:
     std::string m_pageName;
-    std::vector<Paragraph> m_paragraphs;
+    std::vector<Row> m_rows;
+    GlyphOutlines m_outlines;
 };
 
-/// Makes every page known to the screen registry under its name.
+/// Makes every page known to the screen registry: the page "Circle" as "CirclePage".
 void registerPages();
 
 } // namespace velmora

@@ -2,6 +2,8 @@
 
 #include "platform/text/Log.h"
 
+#include <algorithm>
+#include <set>
 #include <utility>
 
 namespace velmora {
@@ -13,6 +15,13 @@ std::map<std::string, std::string_view, std::less<>>& resources() {
     return registered;
 }
 
+std::span<const CompiledResource>& compiledFiles() {
+    static std::span<const CompiledResource> files;
+    return files;
+}
+
+constexpr auto kNameOf = [](const CompiledResource& file) { return std::string_view(file.name); };
+
 } // namespace
 
 void registerResource(std::string name, std::string_view bytes) {
@@ -21,7 +30,26 @@ void registerResource(std::string name, std::string_view bytes) {
 
 std::optional<std::string_view> findResource(std::string_view name) {
     const auto resource = resources().find(name);
-    return resource == resources().end() ? std::nullopt : std::optional(resource->second);
+    if (resource != resources().end()) {
+        return resource->second;
+    }
+    const auto file = std::ranges::lower_bound(compiledFiles(), name, {}, kNameOf);
+    const bool isThere = file != compiledFiles().end() && kNameOf(*file) == name;
+    return isThere ? std::optional(file->bytes()) : std::nullopt;
+}
+
+void registerResources(std::span<const CompiledResource> files) { compiledFiles() = files; }
+
+std::vector<std::string> resourceNames(std::string_view ending) {
+    std::set<std::string> names;
+    for (const auto& [name, bytes] : resources()) {
+        names.insert(name);
+    }
+    for (const CompiledResource& file : compiledFiles()) {
+        names.insert(file.name);
+    }
+    std::erase_if(names, [&](const std::string& name) { return !name.ends_with(ending); });
+    return {names.begin(), names.end()};
 }
 
 std::optional<std::string> resourceText(std::string_view name, std::string_view type) {
@@ -44,8 +72,12 @@ std::optional<PropertyList> readPropertyListResource(std::string_view name) {
     return list;
 }
 
-ResourcesScope::ResourcesScope() : m_former(std::exchange(resources(), {})) {}
+ResourcesScope::ResourcesScope()
+    : m_formerResources(std::exchange(resources(), {})), m_formerFiles(std::exchange(compiledFiles(), {})) {}
 
-ResourcesScope::~ResourcesScope() { resources() = std::move(m_former); }
+ResourcesScope::~ResourcesScope() {
+    resources() = std::move(m_formerResources);
+    compiledFiles() = m_formerFiles;
+}
 
 } // namespace velmora

@@ -2,6 +2,7 @@
 
 #include "app/Registrations.h"
 #include "calculator/lists/FunctionList.h"
+#include "calculator/pages/Page.h"
 #include "engine/functions/BivarTable.h"
 #include "engine/functions/UnivarTable.h"
 #include "platform/files/KeyedArchive.h"
@@ -21,8 +22,15 @@
 namespace velmora {
 namespace {
 
-constexpr const char* kLists[] = {"Functions", "TrigFunctions", "Constants",
-                                  "Reference", "Help List",     "ComplexNumbersImplementationNotes"};
+constexpr const char* kLists[] = {"Functions",
+                                  "TrigFunctions",
+                                  "Constants",
+                                  "Formulas",
+                                  "Reference",
+                                  "Help List",
+                                  "ComplexNumbersImplementationNotes"};
+
+constexpr std::string_view kPageSuffix = "Page";
 
 /// Every entry of a list and of the lists inside it, by content; a nested list stands under its title.
 std::vector<std::pair<std::string, std::string>> entriesOf(const FunctionList& list) {
@@ -53,8 +61,6 @@ protected:
 };
 
 TEST_F(ListResources, areWellFormedAndExplained) {
-    const auto pages = readPropertyListResource("Pages.plist");
-    ASSERT_TRUE(pages && pages->asDictionary());
     EXPECT_EQ(loadFunctionListWithName(kEquationsListName).size(), kFirstFunctionListEntry);
     std::set<std::string> opened{"IfYouLikeThisAppPage"}; // by a tab of its own
     for (const char* name : kLists) {
@@ -69,28 +75,25 @@ TEST_F(ListResources, areWellFormedAndExplained) {
             if (at != std::string::npos && name != std::string("ComplexNumbersImplementationNotes")) {
                 const std::string screen = content.substr(at + 2);
                 EXPECT_TRUE(ScreenRegistry::shared().isRegistered(screen)) << screen;
-                if (screen.ends_with("Page")) {
+                if (screen.ends_with(kPageSuffix)) {
                     opened.insert(screen);
+                    const std::string page = screen.substr(0, screen.size() - kPageSuffix.size());
+                    EXPECT_TRUE(name != std::string("Formulas") ||
+                                content.substr(0, at) == loadPage(page).title)
+                        << content;
                 }
             }
         }
     }
-    for (const auto& [name, page] : *pages->asDictionary()) {
-        EXPECT_TRUE(opened.contains(name)) << name << " cannot be reached";
-        const KeyedUnarchiver fields(page);
-        ASSERT_TRUE(fields.text("title") && fields.array("content")) << name;
-        for (const PropertyList& paragraph : *fields.array("content")) {
-            const KeyedUnarchiver item(paragraph);
-            EXPECT_TRUE(item.text("heading") || item.text("text")) << name;
-        }
-        opened.erase(name);
+    for (const std::string& name : pageNames()) {
+        EXPECT_TRUE(opened.erase(name + "Page") == 1) << name << " cannot be reached";
     }
     EXPECT_THAT(opened, testing::IsEmpty()) << "rows without a page";
 }
 
 TEST_F(ListResources, theReferenceHoldsTheListsOfTheKeys) {
     const FunctionList reference = loadFunctionListWithName("Reference");
-    for (const char* name : {"Functions", "Constants", "Equations"}) {
+    for (const char* name : {"Formulas", "Functions", "Constants", "Equations"}) {
         EXPECT_TRUE(std::ranges::any_of(reference, [&](const PropertyList& entry) {
             const KeyedUnarchiver fields(entry);
             const PropertyArray* nested = fields.array("content");

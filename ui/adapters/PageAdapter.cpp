@@ -7,6 +7,52 @@
 
 namespace velmora {
 
+namespace {
+
+constexpr double kFormulaTypeSize = 19;
+
+QString kindName(PageItem::Kind kind) {
+    switch (kind) {
+    case PageItem::Kind::Text:
+        return QStringLiteral("text");
+    case PageItem::Kind::Heading:
+        return QStringLiteral("heading");
+    case PageItem::Kind::Figure:
+        return QStringLiteral("figure");
+    case PageItem::Kind::Formula:
+        return QStringLiteral("formula");
+    case PageItem::Kind::Keys:
+        return QStringLiteral("keys");
+    case PageItem::Kind::Action:
+        return QStringLiteral("action");
+    }
+    return {};
+}
+
+QVariantMap describe(const PageViewController::Row& row) {
+    QString text = QString::fromStdString(row.item.text);
+    QString spoken = text;
+    Size size = row.figure.size;
+    if (row.item.kind == PageItem::Kind::Formula) {
+        constexpr double unitsOfTypeSize = 1000;
+        const double scale = kFormulaTypeSize / unitsOfTypeSize;
+        text = QString::fromStdString(row.formula.plain);
+        spoken = QString::fromStdString(row.formula.spoken);
+        size = {row.formula.width * scale, (row.formula.ascent + row.formula.descent) * scale};
+    } else if (row.item.kind == PageItem::Kind::Figure) {
+        spoken = QString::fromStdString(row.figure.spoken);
+    }
+    return {{QStringLiteral("kind"), kindName(row.item.kind)},
+            {QStringLiteral("text"), text},
+            {QStringLiteral("spoken"), spoken},
+            {QStringLiteral("drawnWidth"), size.width},
+            {QStringLiteral("drawnHeight"), size.height},
+            {QStringLiteral("insertable"), !row.item.insertion.empty()},
+            {QStringLiteral("shown"), QString::fromStdString(row.item.shown)}};
+}
+
+} // namespace
+
 PageAdapter::PageAdapter(std::shared_ptr<PageViewController> controller, const SceneAdapter& scene)
     : m_controller(std::move(controller)), m_scene(scene) {
     connect(&scene, &SceneAdapter::changed, this, &PageAdapter::sceneChanged);
@@ -14,11 +60,12 @@ PageAdapter::PageAdapter(std::shared_ptr<PageViewController> controller, const S
 
 QUrl PageAdapter::panelArtwork() const { return m_scene.panelArtwork(); }
 
-QVariantList PageAdapter::paragraphs() const {
+double PageAdapter::textScale() const { return PageViewController::textScale(); }
+
+QVariantList PageAdapter::rows() const {
     QVariantList list;
-    for (const PageViewController::Paragraph& paragraph : m_controller->paragraphs()) {
-        list.append(QVariantMap{{QStringLiteral("text"), QString::fromStdString(paragraph.text)},
-                                {QStringLiteral("isHeading"), paragraph.isHeading}});
+    for (const PageViewController::Row& row : m_controller->rows()) {
+        list.append(describe(row));
     }
     return list;
 }

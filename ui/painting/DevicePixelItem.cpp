@@ -10,7 +10,9 @@
 
 namespace velmora {
 
-DevicePixelItem::DevicePixelItem(QQuickItem* parent) : QQuickItem(parent) { setFlag(ItemHasContents); }
+DevicePixelItem::DevicePixelItem(QQuickItem* parent, Ground ground) : QQuickItem(parent), m_ground(ground) {
+    setFlag(ItemHasContents);
+}
 
 void DevicePixelItem::repaint() { polish(); }
 
@@ -26,7 +28,11 @@ void DevicePixelItem::updatePolish() {
         m_picture = QImage();
     } else {
         if (m_picture.size() != pixels) {
-            m_picture = QImage(pixels, QImage::Format_RGB32);
+            m_picture = QImage(pixels, m_ground == Ground::Opaque ? QImage::Format_RGB32
+                                                                  : QImage::Format_ARGB32_Premultiplied);
+        }
+        if (m_ground == Ground::Transparent) {
+            m_picture.fill(Qt::transparent);
         }
         QPainter painter(&m_picture);
         painter.scale(m_pixelsPerPoint, m_pixelsPerPoint);
@@ -47,7 +53,9 @@ QSGNode* DevicePixelItem::updatePaintNode(QSGNode* former, UpdatePaintNodeData* 
         node->setOwnsTexture(true);
         node->setFiltering(QSGTexture::Nearest);
     }
-    node->setTexture(window()->createTextureFromImage(m_picture, QQuickWindow::TextureIsOpaque));
+    node->setTexture(window()->createTextureFromImage(m_picture, m_ground == Ground::Opaque
+                                                                     ? QQuickWindow::TextureIsOpaque
+                                                                     : QQuickWindow::TextureHasAlphaChannel));
     // One pixel of the picture on one of the device, although the item's place may fall between two.
     const QPointF pixel = mapToScene(QPointF()) * window()->effectiveDevicePixelRatio();
     const QPointF shift(std::round(pixel.x()) - pixel.x(), std::round(pixel.y()) - pixel.y());

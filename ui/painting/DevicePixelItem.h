@@ -13,7 +13,10 @@ class DevicePixelItem : public QQuickItem {
     Q_OBJECT
 
 public:
-    explicit DevicePixelItem(QQuickItem* parent = nullptr);
+    /// Whether the item covers what is below it wherever it paints nothing, or lets it be seen.
+    enum class Ground : unsigned char { Opaque, Transparent };
+
+    explicit DevicePixelItem(QQuickItem* parent = nullptr, Ground ground = Ground::Opaque);
 
     /// Has the item painted anew before the next frame.
     void repaint();
@@ -32,6 +35,7 @@ protected:
 private:
     double pixelsPerPoint() const;
 
+    Ground m_ground;
     QImage m_picture;
     double m_pixelsPerPoint = 1;
 };

@@ -1,7 +1,7 @@
 import QtQuick
 import Velmora
 
-// A page of text to read.
+// A page of text, formulas and figures to read.
 FocusScope {
     id: root
 
@@ -39,20 +39,11 @@ FocusScope {
             y: Theme.margin
             spacing: 10
             Repeater {
-                model: root.screen.paragraphs
-                delegate: CopyPasteLabel {
-                    required property var modelData
-                    required property int index
+                model: root.screen.rows
+                delegate: PageRow {
                     width: column.width
-                    topPadding: modelData.isHeading && index > 0 ? 10 : 0
-                    copiedText: modelData.text
-                    panelArtwork: root.screen.panelArtwork
-                    menuParent: root
-                    color: modelData.isHeading ? Theme.text : "#d5dae1"
-                    font { pixelSize: modelData.isHeading ? 18 : 15; bold: modelData.isHeading }
-                    lineHeight: modelData.isHeading ? 1 : 1.2
-                    wrapMode: Text.WordWrap
-                    Accessible.role: modelData.isHeading ? Accessible.Heading : Accessible.Paragraph
+                    screen: root.screen
+                    page: root
                 }
             }
         }
