@@ -22,12 +22,12 @@ public:
 
     /// One line of the answer.
     struct Root {
-        std::string label;       ///< "x1=2", or that there is no root or that every number is one
-        std::string moreExactly; ///< where not every digit of the label is right: what is
-        std::string statement;   ///< how near the label's value is to the true root
-        std::string copyText;    ///< the root in full; empty where there is none
+        std::string label{};       ///< "x1=2", or that there is no root or that every number is one
+        std::string moreExactly{}; ///< where not every digit of the label is right: what is
+        std::string statement{};   ///< how near the label's value is to the true root
+        std::string copyText{};    ///< the root in full; empty where there is none
         /// What goes into the calculator's line; nothing where there is no root, or none within its range.
-        std::optional<ComplexValue> value;
+        std::optional<ComplexValue> value{};
     };
 
     int degree() const { return m_degree; }

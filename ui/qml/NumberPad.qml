@@ -72,11 +72,10 @@ Rectangle {
                     font.pixelSize: 20
                     Accessible.ignored: true
                 }
-                MouseArea {
+                TapArea {
                     id: touch
                     anchors.fill: parent
-                    onPressed: root.press(key.modelData)
-                    Accessible.ignored: true
+                    onTapped: root.press(key.modelData)
                 }
             }
         }

@@ -102,11 +102,9 @@ FocusScope {
                     height: 44
                     radius: 8
                     color: solveTouch.pressed ? "#4a80c8" : Theme.chosen
-                    border { width: activeFocus ? 2 : 0; color: "white" }
+                    border { width: activeFocus && FocusMarks.shown ? 2 : 0; color: "white" }
                     activeFocusOnTab: true
-                    Keys.onSpacePressed: root.solve()
-                    Keys.onReturnPressed: root.solve()
-                    Keys.onEnterPressed: root.solve()
+                    Keys.forwardTo: solveTouch
                     Accessible.role: Accessible.Button
                     Accessible.name: qsTr("Solve")
                     Accessible.focusable: true
@@ -118,11 +116,11 @@ FocusScope {
                         font { pixelSize: 18; bold: true }
                         Accessible.ignored: true
                     }
-                    MouseArea {
+                    TapArea {
                         id: solveTouch
                         anchors.fill: parent
-                        onClicked: root.solve()
-                        Accessible.ignored: true
+                        cancelsOnDrag: true
+                        onTapped: root.solve()
                     }
                 }
             }

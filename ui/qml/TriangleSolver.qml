@@ -49,22 +49,23 @@ FocusScope {
                     visible: root.screen.hasPicture
                     screen: root.screen
                     activeFocusOnTab: root.screen.canToggle
-                    Keys.onSpacePressed: root.screen.toggleSolution()
+                    Keys.forwardTo: toggle
                     Accessible.role: root.screen.canToggle ? Accessible.Button : Accessible.Graphic
                     Accessible.name: qsTr("Triangle")
                     Accessible.description: root.screen.spokenPicture
                     Accessible.onPressAction: root.screen.toggleSolution()
 
-                    MouseArea {
+                    TapArea {
+                        id: toggle
                         anchors.fill: parent
                         enabled: root.screen.canToggle
-                        onClicked: root.screen.toggleSolution()
-                        Accessible.ignored: true
+                        cancelsOnDrag: true
+                        onTapped: root.screen.toggleSolution()
                     }
                     Rectangle {
                         anchors.fill: parent
                         color: "transparent"
-                        border { width: picture.activeFocus ? 2 : 0; color: Theme.accent }
+                        border { width: picture.activeFocus && FocusMarks.shown ? 2 : 0; color: Theme.accent }
                     }
                 }
                 Text {
