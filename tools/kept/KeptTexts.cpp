@@ -1,7 +1,7 @@
 #include "tools/kept/KeptTexts.h"
 
+#include "calculator/model/Model.h"
 #include "platform/files/KeyedArchive.h"
-#include "platform/files/PropertyListFile.h"
 #include "platform/machine/DocumentsFolder.h"
 
 namespace velmora {
@@ -43,11 +43,16 @@ void KeptTexts::setText(std::string_view key, std::string text) {
     }
     m_hasChanged = true;
     m_texts.insert_or_assign(std::string(key), std::move(text));
+    Model::m().changed().emit(ModelChange::Typed); // so that it is saved when the typing has rested
 }
 
 void KeptTexts::load() {
     const auto path = documentPath(m_fileName);
-    const auto saved = path ? readDictionaryFile(*path, m_fileName + " cannot be understood") : std::nullopt;
+    if (!path) {
+        return;
+    }
+    m_file.emplace(*path);
+    const auto saved = m_file->read(m_fileName + " cannot be understood").content;
     if (!saved) {
         return;
     }
@@ -62,8 +67,7 @@ void KeptTexts::load() {
 }
 
 void KeptTexts::save() {
-    const auto path = documentPath(m_fileName);
-    if (!path || !m_hasChanged) {
+    if (!m_file || !m_hasChanged || !m_file->isAsLastSeen()) {
         return;
     }
     PropertyDictionary byKey;
@@ -72,7 +76,7 @@ void KeptTexts::save() {
     }
     KeyedArchiver coder;
     coder.encode(kTextsKey, std::move(byKey));
-    m_hasChanged = !writePropertyListAtomically(*path, coder.propertyList());
+    m_hasChanged = !m_file->write(*coder.propertyList().asDictionary());
 }
 
 } // namespace velmora
