@@ -33,12 +33,19 @@ protected:
     }
     /// The wheel of that name, whatever it shows.
     QQuickItem* wheel(const char* name) {
-        for (QQuickItem* item : program.items(QAccessible::SpinBox)) {
-            if (program.spokenName(item).startsWith(utf8(name) + u',')) {
-                return item;
+        QQuickItem* found = wheelIn(program.window().rootObject(), utf8(name) + u',');
+        EXPECT_TRUE(found) << "no wheel " << name;
+        return found;
+    }
+    QQuickItem* wheelIn(QQuickItem* item, const QString& start) {
+        if (item->inherits("QQuickTumbler") && program.spokenName(item).startsWith(start)) {
+            return item;
+        }
+        for (QQuickItem* child : item->childItems()) {
+            if (QQuickItem* found = wheelIn(child, start)) {
+                return found;
             }
         }
-        ADD_FAILURE() << "no wheel " << name;
         return nullptr;
     }
     QString chosen(const char* name) {
@@ -49,16 +56,17 @@ protected:
     /// A point of a row that stands so many rows below the middle.
     QPoint row(const char* name, double below) {
         const QQuickItem* item = wheel(name);
+        if (item == nullptr) {
+            return {};
+        }
         const double rows = item->property("visibleItemCount").toInt();
         return program.pointOf(item, 0.5, 0.5 + below / rows);
     }
     void expectWithinTheScreen() {
         const QRectF window(QPointF(), QSizeF(program.window().size()));
-        for (const int role : {int(QAccessible::Button), int(QAccessible::SpinBox)}) {
-            for (const QQuickItem* item : program.items(role)) {
-                EXPECT_TRUE(window.adjusted(-1, -1, 1, 1).contains(program.frameInWindow(item)))
-                    << program.spokenName(item).toStdString();
-            }
+        for (const QQuickItem* item : program.items(QAccessible::Button)) {
+            EXPECT_TRUE(window.adjusted(-1, -1, 1, 1).contains(program.frameInWindow(item)))
+                << program.spokenName(item).toStdString();
         }
     }
 
@@ -198,9 +206,11 @@ TEST_P(ToolScreens, daysAreCountedBetweenDates) {
     wheel("From day")->forceActiveFocus(Qt::TabFocusReason);
     program.press(Qt::Key_End);
     EXPECT_EQ(chosen("From day"), utf8("29"));
-    for (const char* name : {"To year", "To month", "To day"}) {
+    const std::pair<const char*, const char*> second[] = {
+        {"To year", "2025"}, {"To month", "mar"}, {"To day", "1"}};
+    for (const auto& [name, typed] : second) {
         wheel(name)->forceActiveFocus(Qt::TabFocusReason);
-        program.type(utf8(name == utf8("To year") ? "2025" : name == utf8("To month") ? "mar" : "1"));
+        program.type(utf8(typed));
     }
     EXPECT_TRUE(program.isOnScreen(utf8("Thursday, 29 February 2024")));
     EXPECT_TRUE(program.isOnScreen(utf8("Saturday, 1 March 2025")));

@@ -32,10 +32,9 @@ Item {
         height: width
         source: root.icon
     }
-    TapHandler {
+    TapArea {
         id: tap
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        longPressThreshold: 86400
+        anchors.fill: parent
         onTapped: root.pressed()
     }
 }

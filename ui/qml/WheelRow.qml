@@ -17,9 +17,9 @@ Item {
 
     Accessible.ignored: true
 
-    TapHandler {
-        gesturePolicy: TapHandler.DragThreshold
-        longPressThreshold: 86400
+    TapArea {
+        anchors.fill: parent
+        cancelsOnDrag: true
         onTapped: root.wheel.turnTo(root.index)
     }
 }
