@@ -1,5 +1,6 @@
 #include "engine/functions/Hyperbolic.h"
 
+#include "engine/numbers/PrincipalValue.h"
 #include "engine/numbers/Quotient.h"
 
 #include <cmath>
@@ -40,13 +41,19 @@ double hyperbolicSecant(double a) {
 
 double hyperbolicCotangent(double a) { return reciprocal(std::tanh(a)); }
 
-ComplexValue complexHyperbolicSine(ComplexValue z) { return rounded(std::sinh(extended(z))); }
-ComplexValue complexHyperbolicCosine(ComplexValue z) { return rounded(std::cosh(extended(z))); }
-ComplexValue complexHyperbolicTangent(ComplexValue z) { return rounded(std::tanh(extended(z))); }
-ComplexValue complexHyperbolicCosecant(ComplexValue z) { return rounded(reciprocal(std::sinh(extended(z)))); }
-ComplexValue complexHyperbolicSecant(ComplexValue z) { return rounded(reciprocal(std::cosh(extended(z)))); }
+ComplexValue complexHyperbolicSine(ComplexValue z) { return principalValue(std::sinh(onPrincipalSide(z))); }
+ComplexValue complexHyperbolicCosine(ComplexValue z) { return principalValue(std::cosh(onPrincipalSide(z))); }
+ComplexValue complexHyperbolicTangent(ComplexValue z) {
+    return principalValue(std::tanh(onPrincipalSide(z)));
+}
+ComplexValue complexHyperbolicCosecant(ComplexValue z) {
+    return principalValue(reciprocal(std::sinh(onPrincipalSide(z))));
+}
+ComplexValue complexHyperbolicSecant(ComplexValue z) {
+    return principalValue(reciprocal(std::cosh(onPrincipalSide(z))));
+}
 ComplexValue complexHyperbolicCotangent(ComplexValue z) {
-    return rounded(reciprocal(std::tanh(extended(z))));
+    return principalValue(reciprocal(std::tanh(onPrincipalSide(z))));
 }
 
 } // namespace velmora

@@ -1,5 +1,7 @@
 #include "engine/functions/Logarithm.h"
 
+#include "engine/numbers/DoubleDouble.h"
+#include "engine/numbers/PrincipalValue.h"
 #include "engine/numbers/Quotient.h"
 
 #include <cmath>
@@ -16,22 +18,26 @@ ComplexValue complexNaturalLogarithm(ComplexValue z) {
     if (isReal(z) && z.real() < 0) { // curves reach this at every sample left of their pole
         return {std::log(-z.real()), std::numbers::pi};
     }
-    return rounded(std::log(extended(z)));
+    return principalValue(std::log(onPrincipalSide(z)));
 }
 
 ComplexValue complexCommonLogarithm(ComplexValue z) {
-    const ExtendedComplex logarithm = std::log(extended(z));
-    return rounded({logarithm.real() / kExtendedLn10, logarithm.imag() / kExtendedLn10});
+    const ComplexValue logarithm = std::log(onPrincipalSide(z));
+    return principalValue({logarithm.real() / std::numbers::ln10, logarithm.imag() / std::numbers::ln10});
 }
 
 double logarithmToBase(double base, double number) {
-    // In extended precision the quotient rounds to the whole number where it is one: logbase(10, 1000) is 3.
-    const Extended divisor = std::log(Extended{base});
-    return divisor == 0 ? undefinedValue().real() : static_cast<double>(std::log(Extended{number}) / divisor);
+    const bool areFinite = std::isfinite(base) && std::isfinite(number);
+    if (base == 1 || !areFinite || base <= 0 || number <= 0) {
+        return quotient(std::log(number), std::log(base));
+    }
+    // With more digits than a double has the quotient rounds to the whole number where it is one:
+    // logbase(10, 1000) is 3.
+    return (naturalLogarithm(DoubleDouble(number)) / naturalLogarithm(DoubleDouble(base))).rounded();
 }
 
 ComplexValue complexLogarithmToBase(ComplexValue base, ComplexValue number) {
-    return rounded(quotient(std::log(extended(number)), std::log(extended(base))));
+    return principalValue(quotient(std::log(onPrincipalSide(number)), std::log(onPrincipalSide(base))));
 }
 
 } // namespace velmora

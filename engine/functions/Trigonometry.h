@@ -4,9 +4,10 @@
 
 namespace velmora {
 
-// The circular functions. Real and complex angles are in radians; the forms in degrees are exact
-// at every real multiple of 90°, where π/180 would leave rounding behind: sin(180) is 0 and tan(90) is
-// undefined. The reciprocal functions are undefined (NaN) where they would divide by exactly 0.
+// The circular functions. Real and complex angles are in radians. A real angle that is a multiple of π/2 to
+// within its own rounding counts as that multiple (up to a million of them), so sin(π) is 0 and tan(π/2) is
+// undefined. The forms in degrees reduce the angle exactly, and their rational values, at multiples of 30°
+// and 45°, are exact. The reciprocal functions are undefined (NaN) where they would divide by exactly 0.
 
 double sine(double a);
 double cosine(double a);

@@ -1,6 +1,6 @@
 #include "engine/numbers/IntegerFunctions.h"
 
-#include "engine/numbers/ExtendedPrecision.h"
+#include "engine/numbers/DoubleDouble.h"
 #include "engine/numbers/Modulo.h"
 #include "engine/numbers/MyMath.h"
 
@@ -44,8 +44,13 @@ std::int64_t factors(double count, double longest) {
     return count > 0 ? static_cast<std::int64_t>(std::min(count, longest)) : 0; // 0 for NaN
 }
 
-/// Γ(a + 1). The sum is formed in extended precision, for Γ magnifies its rounding by up to a·ln a.
-double gammaOfSuccessor(Extended a) { return static_cast<double>(std::tgamma(a + 1.0L)); }
+/// Γ(a + 1). The sum keeps all its digits, for Γ magnifies its rounding by up to a·ln a.
+double gammaOfSuccessor(DoubleDouble a) {
+    const DoubleDouble argument = a + 1.0;
+    const double rough = std::tgamma(argument.high);
+    const bool isSpecial = !std::isfinite(rough) || rough == 0 || argument.high == 0;
+    return isSpecial ? rough : gammaFunction(argument).rounded();
+}
 
 } // namespace
 
@@ -74,7 +79,7 @@ double lcm(double a, double b) {
 
 double perm(double n, double k) {
     if (!areWhole(n, k) || std::round(n) < 0 || std::round(k) < 0) {
-        return gammaOfSuccessor(n) / gammaOfSuccessor(Extended{n} - k);
+        return gammaOfSuccessor(n) / gammaOfSuccessor(exactSum(n, -k));
     }
     if (std::round(k) > std::round(n)) {
         return 0;
@@ -91,7 +96,7 @@ double perm(double n, double k) {
 
 double comb(double n, double k) {
     if (!areWhole(n, k) || std::round(n) < 0 || std::round(k) < 0) {
-        return gammaOfSuccessor(n) / (gammaOfSuccessor(k) * gammaOfSuccessor(Extended{n} - k));
+        return gammaOfSuccessor(n) / (gammaOfSuccessor(k) * gammaOfSuccessor(exactSum(n, -k)));
     }
     if (std::round(k) > std::round(n)) {
         return 0;

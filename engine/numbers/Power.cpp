@@ -1,7 +1,9 @@
 #include "engine/numbers/Power.h"
 
 #include "engine/numbers/IntegerPower.h"
+#include "engine/numbers/PrincipalValue.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -18,12 +20,13 @@ bool isWholeWithin32Bits(ComplexValue w) {
 }
 
 /// (cos, sin) of that many half turns, exact at the quarters of a circle.
-ExtendedComplex pointAtHalfTurns(double halfTurns) {
-    const double inCircle = std::fmod(halfTurns, 2);        // exact
-    const double quarter = std::round(2 * inCircle);        // −4 to 4
-    const Extended rest = Extended{inCircle} - quarter / 2; // within an eighth of a circle
-    const Extended cosine = std::cos(kExtendedPi * rest);
-    const Extended sine = std::sin(kExtendedPi * rest);
+ComplexValue pointAtHalfTurns(double halfTurns) {
+    const double inCircle = std::fmod(halfTurns, 2); // exact
+    const double quarter = std::round(2 * inCircle); // −4 to 4
+    const double rest = inCircle - quarter / 2;      // within an eighth of a circle, and exact
+    const DoubleDouble angle = kDoubleDoublePi * rest;
+    const double cosine = std::cos(angle.high) - angle.low * std::sin(angle.high);
+    const double sine = std::sin(angle.high) + angle.low * std::cos(angle.high);
     switch ((static_cast<int>(quarter) + 4) % 4) {
     case 1:
         return {-sine, cosine};
@@ -38,7 +41,7 @@ ExtendedComplex pointAtHalfTurns(double halfTurns) {
 
 /// The number of that modulus in that direction. A part without direction is 0 however large the modulus, and
 /// with no modulus the direction does not count.
-ExtendedComplex inDirection(Extended modulus, ExtendedComplex direction) {
+ComplexValue inDirection(double modulus, ComplexValue direction) {
     if (modulus == 0) {
         return 0;
     }
@@ -47,12 +50,40 @@ ExtendedComplex inDirection(Extended modulus, ExtendedComplex direction) {
 }
 
 ComplexValue powerOfNegative(double a, double b) {
-    return rounded(inDirection(std::pow(-a, b), pointAtHalfTurns(b)));
+    return principalValue(inDirection(std::pow(-a, b), pointAtHalfTurns(b)));
+}
+
+/// A complex number with the digits that an exponential magnifies.
+struct PreciseLogarithm {
+    DoubleDouble real;
+    DoubleDouble imaginary;
+};
+
+/// The principal logarithm of a finite number other than 0.
+PreciseLogarithm preciseLogarithm(ComplexValue z) {
+    const int exponent = std::ilogb(std::max(std::fabs(z.real()), std::fabs(z.imag())));
+    const double real = std::ldexp(z.real(), -exponent);
+    const double imaginary = std::ldexp(z.imag(), -exponent);
+    const DoubleDouble norm = exactProduct(real, real) + exactProduct(imaginary, imaginary);
+    return {kDoubleDoubleLn2 * static_cast<double>(exponent) + scaledByTwo(naturalLogarithm(norm), 0.5),
+            angleOf(z.imag() + 0.0, z.real() + 0.0)};
+}
+
+/// e^(real + imaginary·i).
+ComplexValue exponentialOf(DoubleDouble real, DoubleDouble imaginary) {
+    constexpr double kManyTurns = 1e5; // whose number would take the digits of what is left over
+    if (!std::isfinite(real.high) || !(std::fabs(imaginary.high) < kManyTurns)) {
+        const double angle = imaginary.high;
+        return principalValue(inDirection(std::exp(real.high), {std::cos(angle), std::sin(angle)}));
+    }
+    const SineAndCosine direction = sineAndCosine(imaginary);
+    return principalValue(
+        inDirection(exponential(real).rounded(), {direction.cosine.rounded(), direction.sine.rounded()}));
 }
 
 } // namespace
 
-bool realPowerApplies(double a, double b) { return !(a < 0) || isWhole(b) || std::isnan(b); }
+bool realPowerApplies(double a, double b) { return !(a < 0) || isWhole(b) || std::isnan(b) || std::isinf(a); }
 
 double realPower(double a, double b) {
     // By multiplication, for polynomials are what is drawn most; NaN passes through as it must.
@@ -82,21 +113,24 @@ ComplexValue complexPower(ComplexValue z, ComplexValue w) {
     if (z == 0.0) {
         return w.real() > 0 ? 0 : undefinedValue();
     }
-    return principalPower(z, extended(w));
+    return principalPower(z, w);
 }
 
-ComplexValue principalPower(ComplexValue base, ExtendedComplex exponent) {
-    const ExtendedComplex logarithm = std::log(extended(base));
-    ExtendedComplex product;
-    if (exponent.imag() == 0) { // by parts, for 0 times an infinite part would be NaN
-        product = {exponent.real() * logarithm.real(), exponent.real() * logarithm.imag()};
-    } else if (logarithm.imag() == 0) {
-        product = {exponent.real() * logarithm.real(), exponent.imag() * logarithm.real()};
-    } else {
-        product = exponent * logarithm;
+ComplexValue principalPower(ComplexValue base, ComplexValue exponent) {
+    if (!std::isfinite(std::abs(base)) || !std::isfinite(std::abs(exponent))) {
+        return principalValue(std::exp(exponent * std::log(onPrincipalSide(base))));
     }
-    return rounded(
-        inDirection(std::exp(product.real()), {std::cos(product.imag()), std::sin(product.imag())}));
+    const PreciseLogarithm logarithm = preciseLogarithm(base);
+    return exponentialOf(logarithm.real * exponent.real() - logarithm.imaginary * exponent.imag(),
+                         logarithm.imaginary * exponent.real() + logarithm.real * exponent.imag());
+}
+
+ComplexValue principalPower(ComplexValue base, DoubleDouble exponent) {
+    if (!std::isfinite(std::abs(base)) || !std::isfinite(exponent.high)) {
+        return principalPower(base, ComplexValue(exponent.high));
+    }
+    const PreciseLogarithm logarithm = preciseLogarithm(base);
+    return exponentialOf(logarithm.real * exponent, logarithm.imaginary * exponent);
 }
 
 } // namespace velmora

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "engine/numbers/ExtendedPrecision.h"
+#include "engine/numbers/ComplexValue.h"
+#include "engine/numbers/DoubleDouble.h"
 
 namespace velmora {
 
-/// Whether a^b of two real numbers is real: unless a negative number meets an exponent that is not whole.
+/// Whether a^b of two real numbers is real: unless a finite negative number meets an exponent that is not
+/// whole. Of minus infinity every power is taken as real, for an infinite value has no direction to show.
 bool realPowerApplies(double a, double b);
 
 /// The C library's power where the above holds, except that NaN passes through: 1^NaN and NaN^0 are NaN.
@@ -18,6 +20,7 @@ ComplexValue complexPower(ComplexValue z, ComplexValue w);
 
 /// e^(exponent · ln base), with the principal logarithm, for any base but 0. Rounded only at the end, because
 /// the exponential magnifies what is lost before it.
-ComplexValue principalPower(ComplexValue base, ExtendedComplex exponent);
+ComplexValue principalPower(ComplexValue base, ComplexValue exponent);
+ComplexValue principalPower(ComplexValue base, DoubleDouble exponent);
 
 } // namespace velmora

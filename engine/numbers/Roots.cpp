@@ -1,6 +1,8 @@
 #include "engine/numbers/Roots.h"
 
+#include "engine/numbers/DoubleDouble.h"
 #include "engine/numbers/Power.h"
+#include "engine/numbers/PrincipalValue.h"
 #include "engine/numbers/Quotient.h"
 
 #include <cmath>
@@ -19,8 +21,15 @@ double rootOfPositive(double degree, double radicand) {
     if (degree == 3) {
         return cubeRoot(radicand);
     }
-    // The rounding of 1/degree grows by the logarithm of the root, so both are formed in extended precision.
-    return static_cast<double>(std::pow(Extended{radicand}, 1 / Extended{degree}));
+    const double exponent = 1 / degree;
+    const double root = std::pow(radicand, exponent);
+    if (root == 0 || !std::isfinite(root) || !std::isfinite(degree) || !std::isfinite(exponent)) {
+        return root;
+    }
+    // What the rounding of 1/degree takes off the exponent grows by the logarithm of the radicand.
+    const DoubleDouble product = exactProduct(exponent, degree);
+    const double missing = ((1 - product.high) - product.low) / degree;
+    return root + root * (missing * std::log(radicand));
 }
 
 } // namespace
@@ -30,7 +39,7 @@ ComplexValue complexSquareRoot(ComplexValue z) {
     if (isReal(z) && z.real() < 0) { // curves reach this at every sample left of their start
         return {0.0, std::sqrt(-z.real())};
     }
-    return rounded(std::sqrt(extended(z)));
+    return principalValue(std::sqrt(onPrincipalSide(z)));
 }
 
 double cubeRoot(double a) {
@@ -39,17 +48,20 @@ double cubeRoot(double a) {
         return root;
     }
     // The C library's root may be off by some last digits; one step of Newton's method, its residual
-    // formed in extended precision, mends that at a fraction of the cost of an extended root.
-    const Extended wide = root;
-    const auto residual = static_cast<double>(wide * wide * wide - a);
-    return root - residual / (3 * root * root);
+    // formed with twice the digits, mends that.
+    const int exponent = std::ilogb(root); // so that no product under- or overflows
+    const double scaledRoot = std::ldexp(root, -exponent);
+    const DoubleDouble cube = exactProduct(scaledRoot, scaledRoot) * scaledRoot;
+    const double residual = (cube - std::ldexp(a, -3 * exponent)).rounded();
+    return std::ldexp(scaledRoot - residual / (3 * scaledRoot * scaledRoot), exponent);
 }
 
 ComplexValue complexCubeRoot(ComplexValue z) {
-    const ExtendedComplex wide = extended(z);
-    const Extended modulus = std::cbrt(std::abs(wide));
-    const Extended angle = std::arg(wide) / 3;
-    return rounded({modulus * std::cos(angle), modulus * std::sin(angle)});
+    if (z == 0.0 || !std::isfinite(std::abs(z))) {
+        const double angle = std::arg(onPrincipalSide(z)) / 3;
+        return principalValue(std::polar(std::cbrt(std::abs(z)), angle));
+    }
+    return principalPower(z, DoubleDouble(1) / 3.0);
 }
 
 double nthRoot(double degree, double radicand) {
@@ -74,7 +86,10 @@ ComplexValue complexNthRoot(ComplexValue degree, ComplexValue radicand) {
     if (isNaN(degree) || isNaN(radicand) || radicand == 0.0 || degree == 0.0) {
         return undefinedValue();
     }
-    return principalPower(radicand, reciprocal(extended(degree)));
+    if (isReal(degree)) {
+        return principalPower(radicand, DoubleDouble(1) / degree.real());
+    }
+    return principalPower(radicand, quotient(1.0, degree));
 }
 
 } // namespace velmora

@@ -132,9 +132,12 @@ const std::string* BivarFunction::findErrorText() const {
     return first != nullptr ? first : errorTextOfInput(m_input2.get());
 }
 
-bool BivarFunction::refersTo(DependenceSearch& search) const {
-    return (m_input1 != nullptr && m_input1->refersTo(search)) ||
-           (m_input2 != nullptr && m_input2->refersTo(search));
+void BivarFunction::addReferences(References& references) const {
+    for (const Expression* input : {m_input1.get(), m_input2.get()}) {
+        if (input != nullptr) {
+            input->addReferences(references);
+        }
+    }
 }
 
 void BivarFunction::describe(DescriptionWriter& writer) const {

@@ -16,6 +16,9 @@ class EvaluationBudget {
 public:
     /// What a whole evaluation may cost, some ten milliseconds; past it the value is NaN.
     static constexpr std::int64_t kMaximumCost = 8'000'000;
+    /// How many equations it may enter one inside the other, with no more than Expression::kMaximumHeight
+    /// levels in all.
+    static constexpr int kMostNestedCalls = 500;
 
     EvaluationBudget();
 
@@ -35,7 +38,6 @@ public:
     ComplexValue settled(ComplexValue value) const;
 
 private:
-    static constexpr int kMostNestedCalls = 500;
     static constexpr int kCostOfCall = 30;
 
     bool drawsOnReserve();

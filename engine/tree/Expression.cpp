@@ -56,8 +56,7 @@ std::string Expression::formattedValueOrErrorDescription() const { return format
 std::string Expression::formattedValue(ComplexValue value) const {
     if (isReal(value)) {
         if (std::isnan(value.real())) {
-            const std::string* error = errorText();
-            return error != nullptr ? *error : std::string(kUndefined);
+            return errorDescription().value_or(std::string(kUndefined));
         }
         return displayStringWithDouble(value.real());
     }
@@ -68,21 +67,19 @@ std::string Expression::formattedValue(ComplexValue value) const {
 }
 
 std::optional<std::string> Expression::errorDescription() const {
-    const std::string* error = errorText();
-    return error != nullptr ? std::optional(*error) : std::nullopt;
+    if (const std::string* error = errorText()) {
+        return *error;
+    }
+    return DependenceSearch(*this).isTooHigh() ? std::optional(unableToParseText()) : std::nullopt;
 }
 
-bool Expression::refersTo(DependenceSearch&) const { return false; }
+void Expression::addReferences(References&) const {}
 
 bool Expression::dependsOnExpression(const Expression& other) const {
-    DependenceSearch search(other);
-    return refersTo(search);
+    return DependenceSearch(*this).leadsTo(other);
 }
 
-bool Expression::hasRecursion() const {
-    DependenceSearch search(*this);
-    return m_holdsRecursion || refersTo(search) || search.hasFoundCircle();
-}
+bool Expression::hasRecursion() const { return DependenceSearch(*this).hasFoundCircle(); }
 
 std::string Expression::description() const {
     DescriptionWriter writer;

@@ -13,10 +13,10 @@
 
 namespace velmora {
 
-class DependenceSearch;
 class DescriptionWriter;
 class Expression;
 class RealProgramBuilder;
+class References;
 struct ComplexEvaluation;
 
 /// The nodes of a line while it is being parsed.
@@ -80,7 +80,8 @@ public:
     std::string formattedValueOrErrorDescription() const;
     /// The same for a value computed earlier.
     virtual std::string formattedValue(ComplexValue value) const;
-    /// The first error text found in the tree, or nothing.
+    /// The first error text found in the tree, that of an unreadable line where the equations that it calls
+    /// stand higher on one another than can be evaluated, or nothing.
     std::optional<std::string> errorDescription() const;
     bool isGraphable() const { return m_isGraphable; }
 
@@ -112,7 +113,7 @@ public:
     virtual ComplexValue complexValue(ComplexEvaluation& evaluation) const;
     /// Appends the steps by which the node is evaluated in real arithmetic.
     virtual void describeToProgram(RealProgramBuilder& builder) const;
-    virtual bool refersTo(DependenceSearch& search) const;
+    virtual void addReferences(References& references) const;
     virtual void describe(DescriptionWriter& writer) const = 0;
 
     /// What the parser has to tell apart at every node, faster than the language's own type queries.
@@ -131,6 +132,8 @@ public:
     /// What evaluating the tree costs at least, in the units of EvaluationBudget.
     std::uint32_t cost() const { return m_cost; }
     bool isConstant() const { return m_leaf == Leaf::RealConstant || m_leaf == Leaf::ComplexConstant; }
+    /// Known without a search, unlike the text.
+    bool hasError() const { return m_hasError; }
     /// The first error text found in the tree; null when there is none.
     const std::string* errorText() const { return m_hasError ? findErrorText() : nullptr; }
     bool holdsRecursion() const { return m_holdsRecursion; }

@@ -8,7 +8,7 @@ namespace velmora {
 
 SharedExpression::SharedExpression(std::shared_ptr<const Expression> tree)
     : FunctionExpression(Kind::Shared), m_tree(std::move(tree)) {
-    m_hasError = m_tree->errorText() != nullptr;
+    m_hasError = m_tree->hasError();
     m_isGraphable = m_tree->isGraphable();
     m_holdsRecursion = m_tree->holdsRecursion();
     m_height = static_cast<std::uint16_t>(m_tree->height() + 1);
@@ -29,7 +29,7 @@ ComplexValue SharedExpression::complexValue(ComplexEvaluation& evaluation) const
 
 const std::string* SharedExpression::findErrorText() const { return m_tree->errorText(); }
 
-bool SharedExpression::refersTo(DependenceSearch& search) const { return search.leadsToSought(*m_tree); }
+void SharedExpression::addReferences(References& references) const { references.addConstant(m_tree); }
 
 void SharedExpression::describe(DescriptionWriter& writer) const {
     if (!writer.isFull()) {

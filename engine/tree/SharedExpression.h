@@ -18,7 +18,7 @@ public:
     std::string formattedValue(ComplexValue value) const override { return m_tree->formattedValue(value); }
 
     ComplexValue complexValue(ComplexEvaluation& evaluation) const override;
-    bool refersTo(DependenceSearch& search) const override;
+    void addReferences(References& references) const override;
     void describe(DescriptionWriter& writer) const override;
 
 private:

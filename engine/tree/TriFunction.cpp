@@ -56,10 +56,12 @@ const std::string* TriFunction::findErrorText() const {
     return text;
 }
 
-bool TriFunction::refersTo(DependenceSearch& search) const {
-    return (m_input1 != nullptr && m_input1->refersTo(search)) ||
-           (m_input2 != nullptr && m_input2->refersTo(search)) ||
-           (m_input3 != nullptr && m_input3->refersTo(search));
+void TriFunction::addReferences(References& references) const {
+    for (const Expression* input : {m_input1.get(), m_input2.get(), m_input3.get()}) {
+        if (input != nullptr) {
+            input->addReferences(references);
+        }
+    }
 }
 
 void TriFunction::describe(DescriptionWriter& writer) const {

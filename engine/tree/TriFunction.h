@@ -30,7 +30,7 @@ public:
     bool needsToBePairedWithARightParen() const override { return m_input1 == nullptr; }
 
     ComplexValue complexValue(ComplexEvaluation& evaluation) const override;
-    bool refersTo(DependenceSearch& search) const override;
+    void addReferences(References& references) const override;
     void describe(DescriptionWriter& writer) const override;
 
 private:

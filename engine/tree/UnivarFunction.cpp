@@ -9,6 +9,7 @@
 #include "engine/tree/TargetAndIndex.h"
 #include "engine/tree/UnivarUserdefinedFunction.h"
 
+#include <cmath>
 #include <numbers>
 
 namespace velmora {
@@ -23,8 +24,10 @@ ComplexValue complexRule(const UnivarRow& row, ComplexValue z) {
     if (!isInDegrees(row)) {
         return row.complex(z);
     }
-    return row.angle == AngleUse::Taken ? row.complex(z * (std::numbers::pi / 180))
-                                        : row.complex(z) * (180 / std::numbers::pi);
+    constexpr double kCircle = 360; // whole turns are taken off while they are exact
+    return row.angle == AngleUse::Taken
+               ? row.complex(ComplexValue(std::fmod(z.real(), kCircle), z.imag()) * (std::numbers::pi / 180))
+               : row.complex(z) * (180 / std::numbers::pi);
 }
 
 bool isReal(const UnivarRow& row, double a) { return row.real != nullptr && row.realDomain.contains(a); }
@@ -137,8 +140,10 @@ void UnivarFunction::describeToProgram(RealProgramBuilder& builder) const {
 
 const std::string* UnivarFunction::findErrorText() const { return errorTextOfInput(m_input.get()); }
 
-bool UnivarFunction::refersTo(DependenceSearch& search) const {
-    return m_input != nullptr && m_input->refersTo(search);
+void UnivarFunction::addReferences(References& references) const {
+    if (m_input != nullptr) {
+        m_input->addReferences(references);
+    }
 }
 
 void UnivarFunction::describe(DescriptionWriter& writer) const {

@@ -49,7 +49,7 @@ public:
 
     ComplexValue complexValue(ComplexEvaluation& evaluation) const override;
     void describeToProgram(RealProgramBuilder& builder) const override;
-    bool refersTo(DependenceSearch& search) const override;
+    void addReferences(References& references) const override;
     void describe(DescriptionWriter& writer) const override;
 
 private:

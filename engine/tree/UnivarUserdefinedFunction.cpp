@@ -48,9 +48,9 @@ void UnivarUserdefinedFunction::describeToProgram(RealProgramBuilder& builder) c
     builder.appendOtherNode(*this);
 }
 
-bool UnivarUserdefinedFunction::refersTo(DependenceSearch& search) const {
-    const std::shared_ptr<const Expression> called = equation();
-    return (called != nullptr && search.equationLeadsToSought(*called)) || UnivarFunction::refersTo(search);
+void UnivarUserdefinedFunction::addReferences(References& references) const {
+    references.addEquation(equation());
+    UnivarFunction::addReferences(references);
 }
 
 } // namespace velmora

@@ -28,7 +28,7 @@ public:
 
     ComplexValue complexValue(ComplexEvaluation& evaluation) const override;
     void describeToProgram(RealProgramBuilder& builder) const override;
-    bool refersTo(DependenceSearch& search) const override;
+    void addReferences(References& references) const override;
 
 private:
     Token m_token;

@@ -39,7 +39,7 @@ public:
             node.kind() == Expression::Kind::OneInput; // or an opener: both go before an operand
         m_wantsOperand = isSign || node.needsToBePairedWithARightParen();
         m_impliesProduct = node.canBeFollowedByImpliedMultiplication();
-        return node.errorText() == nullptr || m_wantsOperand;
+        return !node.hasError() || m_wantsOperand;
     }
 
     bool isComplete() const { return !m_wantsOperand && m_commasOwed.empty(); }

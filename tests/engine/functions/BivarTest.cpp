@@ -57,7 +57,7 @@ TEST(BivarReal, isExactWhereUsersCheck) {
         {Power, -2, 3, -8}, {Power, -2, -2, 0.25},
         {Power, -8, 2147483649.0, -kInfinity}, // odd, and whole beyond 32 bits
         {Power, -4, 0.5, {0, 2}}, {Power, -4, -0.5, {0, -0.5}}, {Power, -4, 1.5, {0, -8}},
-        {Power, -1, 1e15 + 0.5, kI}, {Power, -kInfinity, 0.5, {0, kInfinity}}, {Power, 1, kNaN, kNaN},
+        {Power, -1, 1e15 + 0.5, kI}, {Power, -kInfinity, 0.5, kInfinity}, {Power, -kInfinity, -0.5, 0}, {Power, 1, kNaN, kNaN},
         {Power, kNaN, 0, kNaN}, {Power, kI, kNaN, kNaN}, {Power, kI, 2, -1}, {Power, kI, 0, 1},
         {Power, {1, 1}, -2, {0, -0.5}}, {Power, 0, {1, 1}, 0}, {Power, 0, {-1, 1}, kNaN},
         {Power, 0, kI, kNaN}, {Power, 1, {3, -5}, 1}, {Power, kInfinity, 2, kInfinity},
