@@ -72,7 +72,8 @@ std::shared_ptr<ViewController> makeRoot(const TabRow& row) {
         return Model::m().currentEquationsViewController();
     }
     auto root = ScreenRegistry::shared().make(row.className);
-    if (auto* list = dynamic_cast<FunctionListScreen*>(root.get())) {
+    auto* list = dynamic_cast<FunctionListScreen*>(root.get());
+    if (list && row.listName) { // some lists know their own name
         list->setFunctionListName(row.listName);
     }
     return root;
