@@ -1,5 +1,6 @@
 #include "calculator/keyboard/CalculatorOfScreen.h"
 
+#include "calculator/keyboard/EditingMode.h"
 #include "calculator/keyboard/KeyboardViewController.h"
 #include "calculator/model/Model.h"
 #include "platform/screens/NavigationController.h"
@@ -22,6 +23,13 @@ std::shared_ptr<KeyboardViewController> highestCalculatorIn(const NavigationCont
     return nullptr;
 }
 
+NavigationController* stackOfCalculatorTab() {
+    const auto tabBar = Model::m().tabBarController();
+    const auto tab =
+        tabBar && !tabBar->viewControllers().empty() ? tabBar->viewControllers().front() : nullptr;
+    return dynamic_cast<NavigationController*>(tab.get());
+}
+
 } // namespace
 
 bool returnToCalculator(NavigationController* stack,
@@ -31,18 +39,22 @@ bool returnToCalculator(NavigationController* stack,
         stack->popTo(*below);
         return true;
     }
-    const auto tabBar = Model::m().tabBarController();
-    const auto tab =
-        tabBar && !tabBar->viewControllers().empty() ? tabBar->viewControllers().front() : nullptr;
-    auto* calculatorTab = dynamic_cast<NavigationController*>(tab.get());
+    NavigationController* calculatorTab = stackOfCalculatorTab();
     const auto calculator = highestCalculatorIn(calculatorTab);
     if (!calculator) {
         return false;
     }
-    tabBar->setSelectedIndex(0);
+    Model::m().tabBarController()->setSelectedIndex(0);
     insert(*calculator);
     calculatorTab->popTo(*calculator);
     return true;
+}
+
+std::vector<std::string> variablesOfCalculatorLine(const NavigationController* stack) {
+    const auto below = highestCalculatorIn(stack);
+    const auto calculator = below ? below : highestCalculatorIn(stackOfCalculatorTab());
+    return calculator ? variablesOfLine(editingMode(calculator->entering()), calculator->target())
+                      : std::vector<std::string>();
 }
 
 } // namespace velmora

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -12,5 +14,8 @@ class NavigationController;
 /// False, with nothing done, when there is neither.
 bool returnToCalculator(NavigationController* stack,
                         const std::function<void(KeyboardViewController&)>& insert);
+
+/// The variables that the line may hold to which a screen on that stack returns.
+std::vector<std::string> variablesOfCalculatorLine(const NavigationController* stack);
 
 } // namespace velmora

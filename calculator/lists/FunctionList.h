@@ -22,6 +22,7 @@ using FunctionList = PropertyArray;
 inline constexpr std::size_t kFunctionListTitle = 1;      ///< the index of the title
 inline constexpr std::size_t kFirstFunctionListEntry = 2; ///< and that of the first entry
 inline constexpr const char* kEquationsListName = "Equations";
+inline constexpr const char* kReferenceListName = "Reference";
 
 /// The list in the resource of that name. A missing or malformed one is logged and gives an empty list.
 FunctionList loadFunctionListWithName(std::string_view name);

@@ -4,6 +4,7 @@
 #include "calculator/keyboard/KeyboardViewController.h"
 #include "calculator/lists/ConstantEditViewController.h"
 #include "calculator/lists/FunctionListTrimming.h"
+#include "calculator/lists/ReferenceSearch.h"
 #include "calculator/model/Model.h"
 #include "engine/lines/Token.h"
 #include "platform/screens/NavigationController.h"
@@ -53,7 +54,9 @@ FunctionListRow rowOfText(const std::string& content, const std::string& hint) {
             .content = content};
 }
 
-FunctionListRow rowOfEntry(const PropertyList& entry) {
+} // namespace
+
+FunctionListRow functionListRow(const PropertyList& entry) {
     const PropertyDictionary* fields = entry.asDictionary();
     const auto field = [&](const char* key) {
         const auto found =
@@ -70,7 +73,9 @@ FunctionListRow rowOfEntry(const PropertyList& entry) {
                      hint.asText() ? *hint.asText() : std::string());
 }
 
-} // namespace
+FunctionSelectViewController::FunctionSelectViewController() = default;
+
+FunctionSelectViewController::~FunctionSelectViewController() = default;
 
 void FunctionSelectViewController::viewDidLoad() {
     loadFunctionList();
@@ -110,14 +115,30 @@ void FunctionSelectViewController::loadFunctionList() {
 
 void FunctionSelectViewController::makeRows() {
     m_rows.clear();
+    if (isSearching()) {
+        m_rows = m_search->find(m_searchText);
+        m_rowsChanged.emit();
+        return;
+    }
     for (std::size_t index = kFirstFunctionListEntry; index < m_functionList.size(); ++index) {
-        FunctionListRow row = rowOfEntry(m_functionList[index]);
+        FunctionListRow row = functionListRow(m_functionList[index]);
         if (m_showsUserConstants) {
             row.value = Model::m().constants().expressionString(static_cast<int>(m_rows.size()));
         }
         m_rows.push_back(std::move(row));
     }
     m_rowsChanged.emit();
+}
+
+void FunctionSelectViewController::setSearchText(const std::string& text) {
+    if (!hasSearch() || text == m_searchText) {
+        return;
+    }
+    if (!m_search) {
+        m_search = std::make_unique<ReferenceSearch>(m_functionList);
+    }
+    m_searchText = text;
+    makeRows();
 }
 
 void FunctionSelectViewController::setEditing(bool editing) {

@@ -5,10 +5,14 @@
 #include "platform/screens/ViewController.h"
 #include "toolkit/LabelRecord.h"
 
+#include <array>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace velmora {
+
+class ReferenceSearch;
 
 /// What a row of a list does when it is chosen.
 enum class FunctionListRowKind : unsigned char {
@@ -36,10 +40,16 @@ struct FunctionListRow {
     }
 };
 
+/// An entry of a list as it is shown.
+FunctionListRow functionListRow(const PropertyList& entry);
+
 /// A list of functions or constants to choose from. A choice goes into the calculator line below it on the
 /// stack; where there is none, as in the Reference tab, into the line of the calculator tab.
 class FunctionSelectViewController : public ViewController, public FunctionListScreen {
 public:
+    FunctionSelectViewController();
+    ~FunctionSelectViewController() override;
+
     static constexpr std::array<const char*, 2> kAngleModes{"Radians", "Degrees"};
 
     std::string className() const override { return "FunctionSelectViewController"; }
@@ -56,6 +66,13 @@ public:
     const std::vector<FunctionListRow>& rows() const { return m_rows; }
     /// Chooses a row as a tap does. Nothing for a row that cannot be chosen or does not exist.
     void selectRow(std::size_t row);
+
+    /// Whether the list can be searched, with all that is inside it: the root of the reference.
+    bool hasSearch() const { return m_functionListName == kReferenceListName; }
+    const std::string& searchText() const { return m_searchText; }
+    /// Shows what the text finds; everything again for one without words.
+    void setSearchText(const std::string& text);
+    bool isSearching() const { return m_searchText.find_first_not_of(' ') != std::string::npos; }
 
     int angleMode() const;
     void setAngleMode(int mode);
@@ -79,6 +96,8 @@ private:
     void insert(const std::string& text);
 
     std::string m_functionListName;
+    std::string m_searchText;
+    std::unique_ptr<ReferenceSearch> m_search; ///< made for the first search
     bool m_variableIsDefined = false;
     FunctionList m_functionList;
     std::vector<FunctionListRow> m_rows;

@@ -15,7 +15,7 @@ namespace velmora {
 namespace {
 
 constexpr std::string_view kSigns = "+-*/^(),.0123456789";
-constexpr std::array<std::string_view, 6> kOfTheLine{"x", "y", "t", "θ", "e", "i"};
+constexpr std::array<std::string_view, 2> kNumbers{"e", "i"};
 
 /// A piece of the text and what it is.
 struct Piece {
@@ -79,8 +79,8 @@ std::optional<std::vector<Piece>> piecesOf(std::string_view text) {
         } else if (isNameCharacter(text.front())) {
             const std::string letter = letterAt(text);
             length = letter.size();
-            const bool isOfTheLine = std::ranges::find(kOfTheLine, letter) != kOfTheLine.end();
-            pieces.push_back({isOfTheLine ? Piece::Kind::Token : Piece::Kind::Letter, letter});
+            const bool isNumber = std::ranges::find(kNumbers, letter) != kNumbers.end();
+            pieces.push_back({isNumber ? Piece::Kind::Token : Piece::Kind::Letter, letter});
         } else {
             return std::nullopt;
         }
@@ -104,14 +104,18 @@ std::optional<std::string> constantIn(const PropertyArray& list, std::string_vie
 
 } // namespace
 
-std::optional<std::vector<std::string>> FormulaText::letters() const {
+std::optional<std::vector<std::string>>
+FormulaText::letters(const std::vector<std::string>& variables) const {
     const auto pieces = piecesOf(m_text);
     if (!pieces) {
         return std::nullopt;
     }
     std::vector<std::string> letters;
     for (const Piece& piece : *pieces) {
-        if (piece.kind == Piece::Kind::Letter && std::ranges::find(letters, piece.text) == letters.end()) {
+        const auto isIn = [&](const std::vector<std::string>& list) {
+            return std::ranges::find(list, piece.text) != list.end();
+        };
+        if (piece.kind == Piece::Kind::Letter && !isIn(variables) && !isIn(letters)) {
             letters.push_back(piece.text);
         }
     }

@@ -18,9 +18,10 @@ class FormulaText {
 public:
     explicit FormulaText(std::string text) : m_text(std::move(text)) {}
 
-    /// The letters that are no variables of a line, in the order in which they stand. Nothing when the text
+    /// The letters that are none of these variables, in the order in which they stand. Nothing when the text
     /// cannot be read.
-    std::optional<std::vector<std::string>> letters() const;
+    std::optional<std::vector<std::string>> letters(const std::vector<std::string>& variables = {
+                                                        "x", "y", "t", "θ"}) const;
 
     /// What stands in the place of a letter; nothing leaves the letter itself, as a token.
     using Values = std::function<std::optional<TokenArray>(const std::string& letter)>;

@@ -1,6 +1,7 @@
 #include "calculator/pages/PageViewController.h"
 
 #include "calculator/model/Model.h"
+#include "calculator/pages/FormulaInsertion.h"
 #include "platform/machine/Device.h"
 #include "platform/screens/ScreenRegistry.h"
 #include "platform/text/Log.h"
@@ -37,6 +38,12 @@ void PageViewController::viewDidLoad() {
                 row.formula.spoken = row.item.spoken;
             }
         }
+    }
+}
+
+void PageViewController::insert(std::size_t row) {
+    if (row < m_rows.size() && !m_rows[row].item.insertion.empty()) {
+        insertFormula(m_rows[row].item, title(), navigationController());
     }
 }
 

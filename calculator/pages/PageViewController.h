@@ -28,6 +28,8 @@ public:
     const std::string& pageName() const { return m_pageName; }
     const std::vector<Row>& rows() const { return m_rows; }
     GlyphOutlines& outlines() { return m_outlines; }
+    /// Puts the right side of a row's formula into the line. Nothing for a row without one.
+    void insert(std::size_t row);
     /// How much larger than usual the texts are: by the user's choice of large fonts, on a phone.
     static double textScale();
 

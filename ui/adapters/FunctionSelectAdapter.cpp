@@ -63,6 +63,16 @@ void FunctionSelectAdapter::setAngleMode(int mode) { m_controller->setAngleMode(
 
 bool FunctionSelectAdapter::isEditing() const { return m_controller->isEditing(); }
 
+bool FunctionSelectAdapter::hasSearch() const { return m_controller->hasSearch(); }
+
+QString FunctionSelectAdapter::searchText() const {
+    return QString::fromStdString(m_controller->searchText());
+}
+
+void FunctionSelectAdapter::setSearchText(const QString& text) {
+    m_controller->setSearchText(text.toStdString());
+}
+
 void FunctionSelectAdapter::refresh() {
     const int count = int(m_controller->rows().size());
     // A list that is made anew begins at its top, so that is left to the case where its length changes.

@@ -21,6 +21,8 @@ class FunctionSelectAdapter final : public QAbstractListModel {
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QStringList angleModes READ angleModes CONSTANT)
     Q_PROPERTY(int angleMode READ angleMode WRITE setAngleMode NOTIFY rowsRefreshed)
+    Q_PROPERTY(bool hasSearch READ hasSearch CONSTANT)
+    Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY rowsRefreshed)
     Q_PROPERTY(bool editing READ isEditing NOTIFY rowsRefreshed)
 
 public:
@@ -44,6 +46,9 @@ public:
     int angleMode() const;
     void setAngleMode(int mode);
     bool isEditing() const;
+    bool hasSearch() const;
+    QString searchText() const;
+    void setSearchText(const QString& text);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -1,6 +1,7 @@
 #include "ui/adapters/PageAdapter.h"
 
 #include "calculator/pages/PageViewController.h"
+#include "platform/events/ActionScope.h"
 #include "ui/adapters/SceneAdapter.h"
 
 #include <QVariantMap>
@@ -61,6 +62,13 @@ PageAdapter::PageAdapter(std::shared_ptr<PageViewController> controller, const S
 QUrl PageAdapter::panelArtwork() const { return m_scene.panelArtwork(); }
 
 double PageAdapter::textScale() const { return PageViewController::textScale(); }
+
+void PageAdapter::insert(int row) {
+    const ActionScope action;
+    if (row >= 0) {
+        m_controller->insert(std::size_t(row));
+    }
+}
 
 QVariantList PageAdapter::rows() const {
     QVariantList list;

@@ -30,6 +30,8 @@ public:
     QVariantList rows() const;
     double textScale() const;
     QUrl panelArtwork() const;
+    /// Puts a row's formula into the line.
+    Q_INVOKABLE void insert(int row);
     PageViewController& controller() const { return *m_controller; }
 
 Q_SIGNALS:

@@ -9,16 +9,41 @@ FocusScope {
     readonly property Item scrollingPart: table
 
     focus: true
+    // The letters of a hardware keyboard go to the search.
+    Keys.onPressed: event => {
+        const isCommand = event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)
+        if (search.visible && !search.typing && !isCommand && event.text > " ") {
+            search.type(event.text)
+            event.accepted = true
+        }
+    }
 
     Rectangle {
         anchors.fill: parent
         color: Theme.background
     }
+    SearchField {
+        id: search
+        visible: root.screen.hasSearch
+        width: table.width
+        x: table.x
+        text: root.screen.searchText
+        onTextChanged: root.screen.searchText = text
+        Keys.onDownPressed: table.forceActiveFocus()
+    }
+    Text {
+        anchors { top: search.bottom; topMargin: 30; horizontalCenter: parent.horizontalCenter }
+        visible: search.visible && search.text.trim() !== "" && table.count === 0
+        text: qsTr("Nothing found")
+        color: Theme.secondaryText
+        font.pixelSize: Theme.textSize
+    }
     Table {
         id: table
         // On a wide screen a row stays narrow enough for the eye to follow from its title to its meaning.
         width: Math.min(parent.width, 640)
-        height: parent.height
+        height: parent.height - y
+        y: search.visible ? search.height : 0
         x: (parent.width - width) / 2
         topMargin: width < parent.width ? 20 : 0 // there it is a sheet of its own
         focus: true

@@ -59,6 +59,12 @@ Loader {
                     color: Theme.text
                 }
             }
+            PageButton {
+                anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+                visible: root.modelData.insertable
+                spokenName: qsTr("Put into the line: %1").arg(root.modelData.spoken)
+                onTapped: root.screen.insert(root.index)
+            }
         }
     }
     Component {

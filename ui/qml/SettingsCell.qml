@@ -84,7 +84,13 @@ Loader {
         LinkRow {
             title: root.title
             value: root.value
-            onTapped: root.screen.tap(root.index)
+            onTapped: {
+                // What is being typed in a field is handed on first; the row may be made anew by that.
+                const screen = root.screen
+                const index = root.index
+                forceActiveFocus()
+                screen.tap(index)
+            }
         }
     }
     Component {
