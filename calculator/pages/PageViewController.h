@@ -19,6 +19,7 @@ public:
         PageItem item;
         FormulaArtwork formula{}; ///< of a formula
         Figure figure{};          ///< of a figure
+        std::string link{};       ///< of an action, whose text is the button's
     };
 
     explicit PageViewController(std::string pageName) : m_pageName(std::move(pageName)) {}
@@ -30,6 +31,8 @@ public:
     GlyphOutlines& outlines() { return m_outlines; }
     /// Puts the right side of a row's formula into the line. Nothing for a row without one.
     void insert(std::size_t row);
+    /// Opens the link of a row's button; an alert says it when the machine cannot.
+    void open(std::size_t row);
     /// How much larger than usual the texts are: by the user's choice of large fonts, on a phone.
     static double textScale();
 
@@ -37,6 +40,8 @@ public:
     bool shouldAutorotate(Orientation orientation) const override;
 
 private:
+    void addActions(const std::string& name);
+
     std::string m_pageName;
     std::vector<Row> m_rows;
     GlyphOutlines m_outlines;

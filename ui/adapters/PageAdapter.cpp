@@ -70,6 +70,13 @@ void PageAdapter::insert(int row) {
     }
 }
 
+void PageAdapter::open(int row) {
+    const ActionScope action;
+    if (row >= 0) {
+        m_controller->open(std::size_t(row));
+    }
+}
+
 QVariantList PageAdapter::rows() const {
     QVariantList list;
     for (const PageViewController::Row& row : m_controller->rows()) {

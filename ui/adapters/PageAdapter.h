@@ -32,6 +32,8 @@ public:
     QUrl panelArtwork() const;
     /// Puts a row's formula into the line.
     Q_INVOKABLE void insert(int row);
+    /// Opens the link of a row's button.
+    Q_INVOKABLE void open(int row);
     PageViewController& controller() const { return *m_controller; }
 
 Q_SIGNALS:

@@ -14,7 +14,9 @@ Loader {
         "text": text,
         "heading": text,
         "formula": formula,
-        "figure": figure
+        "figure": figure,
+        "keys": keys,
+        "action": action
     })[modelData.kind]
 
     Component {
@@ -65,6 +67,49 @@ Loader {
                 spokenName: qsTr("Put into the line: %1").arg(root.modelData.spoken)
                 onTapped: root.screen.insert(root.index)
             }
+        }
+    }
+    Component {
+        id: keys
+        Flow {
+            spacing: 4
+            Accessible.role: Accessible.StaticText
+            Accessible.name: qsTr("Press %1, the result is %2").arg(root.modelData.text).arg(root.modelData.shown)
+            Repeater {
+                model: root.modelData.text.split(" ")
+                delegate: Rectangle {
+                    required property string modelData
+                    width: Math.max(30, cap.implicitWidth + 14) * root.screen.textScale
+                    height: 30 * root.screen.textScale
+                    radius: 6
+                    color: Theme.bar
+                    border { width: 1; color: Theme.separator }
+                    Text {
+                        id: cap
+                        anchors.centerIn: parent
+                        text: parent.modelData
+                        color: Theme.text
+                        font.pixelSize: 15 * root.screen.textScale
+                        Accessible.ignored: true
+                    }
+                }
+            }
+            Text {
+                height: 30 * root.screen.textScale
+                leftPadding: 6
+                verticalAlignment: Text.AlignVCenter
+                text: "→ " + root.modelData.shown
+                color: Theme.accent
+                font.pixelSize: 15 * root.screen.textScale
+                Accessible.ignored: true
+            }
+        }
+    }
+    Component {
+        id: action
+        LinkRow {
+            title: root.modelData.text
+            onTapped: root.screen.open(root.index)
         }
     }
     Component {
