@@ -26,6 +26,7 @@ using namespace velmora;
 
 constexpr Viewport kViewport{-10, 10, -10, 10, 1024, 719};
 constexpr int kPixelsPerPoint = 2;
+constexpr DevicePixels kPixels{.perPoint = kPixelsPerPoint, .lineWidth = 2};
 constexpr int kRounds = 60;
 
 using Function = double (*)(double);
@@ -72,14 +73,13 @@ public:
                 m_curve.lineTo({double(column), y});
                 continue;
             }
-            m_segments = &m_curve.gap(m_curve.addGap());
             halve(x - dx, former, column - 1, x, y, column, 1);
             if (std::isfinite(y)) {
                 m_curve.moveTo({double(column), y});
             }
         }
     }
-    const PlottedCurve& curve() const { return m_curve; }
+    const CurveDrawing& curve() const { return m_curve; }
 
 private:
     static constexpr float kFarApart = 30;
@@ -101,20 +101,19 @@ private:
         const double y = height(x);
         constexpr int deepest = 50;
         if (std::fabs(y - y1) < kFarApart) {
-            m_segments->push_back({{s1, y1}, {s, y}});
+            m_curve.addToGap(0, {s1, y1}, {s, y});
         } else if (depth < deepest) {
             halve(x1, y1, s1, x, y, s, depth + 1);
         }
         if (std::fabs(y2 - y) < kFarApart) {
-            m_segments->push_back({{s, y}, {s2, y2}});
+            m_curve.addToGap(0, {s, y}, {s2, y2});
         } else if (depth < deepest) {
             halve(x, y, s, x2, y2, s2, depth + 1);
         }
     }
 
     Function m_function;
-    PlottedCurve m_curve;
-    std::vector<PlottedCurve::Segment>* m_segments = nullptr;
+    CurveDrawing m_curve{Size{double(kViewport.width), double(kViewport.height)}, kPixels};
 };
 
 template <std::size_t size> class Frame {
@@ -128,20 +127,21 @@ public:
     /// Milliseconds.
     double fromExpressions() {
         const double start = monotonicSeconds();
-        std::vector<CurvePlotter> plotters;
+        std::vector<std::unique_ptr<CurvePlotter>> plotters;
         for (const auto& expression : m_expressions) {
-            plotters.emplace_back(expression, kViewport, true).refine(start + 10);
+            plotters.push_back(std::make_unique<CurvePlotter>(expression, kViewport, true, kPixels));
+            plotters.back()->refine(start + 10);
         }
-        paint([&](std::size_t i) -> const PlottedCurve& { return plotters[i].curve(); });
+        paint([&](std::size_t i) -> const CurveDrawing& { return plotters[i]->curve(); });
         return 1e3 * (monotonicSeconds() - start);
     }
     double byHand() {
         const double start = monotonicSeconds();
-        std::vector<ByHand> plotters;
+        std::vector<std::unique_ptr<ByHand>> plotters;
         for (const Curve& curve : m_curves) {
-            plotters.emplace_back(curve.byHand);
+            plotters.push_back(std::make_unique<ByHand>(curve.byHand));
         }
-        paint([&](std::size_t i) -> const PlottedCurve& { return plotters[i].curve(); });
+        paint([&](std::size_t i) -> const CurveDrawing& { return plotters[i]->curve(); });
         return 1e3 * (monotonicSeconds() - start);
     }
 
@@ -153,7 +153,7 @@ private:
         QtDrawingContext context(painter, {0, 0, double(kViewport.width), double(kViewport.height)});
         context.setLineWidth(2);
         for (std::size_t i = 0; i < size; ++i) {
-            context.setStrokeColor({0.2 * double(i), 0.3, 0.5});
+            context.setFillColor({0.2 * double(i), 0.3, 0.5});
             curveAt(i).draw(context);
         }
     }

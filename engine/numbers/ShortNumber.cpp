@@ -5,9 +5,8 @@
 
 namespace velmora {
 
-std::string shortNumber(double number) {
+std::string shortNumber(double number, int digits) {
     constexpr std::size_t longest = 32;
-    constexpr int digits = 6;
     std::array<char, longest> buffer{};
     const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
                                             std::chars_format::general, digits);

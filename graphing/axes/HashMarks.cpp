@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace velmora {
 
@@ -32,12 +34,27 @@ template <class Visit> void forEachMultiple(double step, double low, double high
 }
 
 /// The number at a mark; empty at 0, where the other axis would cross it.
-std::string markText(double value) {
+std::string markText(double value, int digits) {
     if (MyMath::isInteger(value) && std::fabs(value) < kLargestWrittenOut) {
         const long whole = std::lround(value);
         return whole == 0 ? std::string() : std::to_string(whole);
     }
-    return shortNumber(value);
+    return shortNumber(value, digits);
+}
+
+/// The numbers at all marks, with as many digits as tell neighbours apart.
+std::vector<std::string> markTexts(const std::vector<double>& values) {
+    std::vector<std::string> texts(values.size());
+    constexpr int fewest = 6;
+    constexpr int most = std::numeric_limits<double>::max_digits10;
+    for (int digits = fewest; digits <= most; ++digits) {
+        std::ranges::transform(values, texts.begin(),
+                               [digits](double value) { return markText(value, digits); });
+        if (std::ranges::adjacent_find(texts) == texts.end()) {
+            break;
+        }
+    }
+    return texts;
 }
 
 /// How far a centre is pushed in, so that the number stays on the screen.
@@ -118,25 +135,27 @@ HashMarks HashMarks::along(bool vertical, const Viewport& viewport, const HashMa
         }
     }
     const int halfWidth = labelWidth / 2; // whole points
-    forEachMultiple(spacing.hashmarkSpacing, low, high, [&](double value) {
-        const float along = onScreen(value);
+    std::vector<double> values;
+    forEachMultiple(spacing.hashmarkSpacing, low, high, [&](double value) { values.push_back(value); });
+    std::vector<std::string> texts = markTexts(values);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const float along = onScreen(values[i]);
         marks.ticks.push_back(along);
-        std::string text = markText(value);
-        if (text.empty()) {
-            return;
+        if (texts[i].empty()) {
+            continue;
         }
         double x = vertical ? axis + offset : along;
         double y = vertical ? along : axis + offset;
         x += pushedIn(x, width);
         y += pushedIn(y, height);
         marks.labels.push_back(
-            {.text = std::move(text),
+            {.text = std::move(texts[i]),
              .frame = {x - halfWidth, y - kLabelHeight / 2, static_cast<double>(labelWidth), kLabelHeight},
              .fontSize = wide ? 18.0 : 12.0,
              .minimumFontSize = kSmallestFont,
              .textColor = textColor,
              .alignment = TextAlignment::Centre});
-    });
+    }
     return marks;
 }
 

@@ -3,21 +3,17 @@
 #include "calculator/model/GraphTypeTable.h"
 #include "engine/lines/ExpressionList.h"
 #include "engine/tree/Expression.h"
+#include "graphing/plot/CurvePlotter.h"
+#include "platform/machine/Clock.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace velmora {
 
-GraphFrame::Curve::Curve(std::size_t slot, std::unique_ptr<CurvePlotter> plotter)
-    : m_slot(slot), m_plotter(std::move(plotter)) {}
-
-GraphFrame::Curve::Curve(std::size_t slot, PlottedCurve finished)
-    : m_slot(slot), m_finished(std::move(finished)) {}
-
 GraphFrame::GraphFrame(const Viewport& viewport, GraphSettings settings, TraceMode traceMode,
-                       float traceScreenX)
-    : m_viewport(viewport), m_settings(std::move(settings)) {
+                       float traceScreenX, double pixelsPerPoint)
+    : m_viewport(viewport), m_settings(std::move(settings)), m_pixelsPerPoint(pixelsPerPoint) {
     m_trace.mode = traceMode;
     m_trace.screenX = traceScreenX;
     if (m_viewport.isUsable()) {
@@ -41,30 +37,36 @@ void GraphFrame::computeCurves() {
     if (!m_settings.type) {
         return;
     }
+    const DevicePixels pixels{m_pixelsPerPoint, look().axisWidth()};
+    const ParameterRange& range = m_settings.range;
     for (const auto& [slot, expressions] : m_settings.curves) {
-        GraphMetaData& metaData = m_metaData.at(slot);
-        if (std::ranges::find(expressions, nullptr) != expressions.end()) {
-            continue;
-        }
-        const ParameterRange& range = m_settings.range;
         switch (m_settings.type->type) {
-        case GraphType::Function: {
-            auto plotter =
-                std::make_unique<CurvePlotter>(expressions.front(), m_viewport, m_settings.acceptsAlmostReal);
-            metaData = plotter->metaData();
-            m_curves.emplace_back(slot, std::move(plotter));
+        case GraphType::Function:
+            m_curves.push_back({slot, std::make_unique<CurvePlotter>(expressions.front(), m_viewport,
+                                                                     m_settings.acceptsAlmostReal, pixels)});
             break;
-        }
         case GraphType::Polar:
-            m_curves.emplace_back(
-                slot, graphPolar(*expressions.front(), range, m_settings.inDegrees, m_viewport, metaData));
+            m_curves.push_back(
+                {slot, std::make_unique<ParameterPlotter>(
+                           polarCurve(expressions.front(), range, m_settings.inDegrees, m_viewport),
+                           m_viewport, pixels)});
             break;
         case GraphType::Parametric:
-            m_curves.emplace_back(slot, graphParametrically(*expressions.front(), *expressions.back(), range,
-                                                            m_viewport, metaData));
+            m_curves.push_back(
+                {slot, std::make_unique<ParameterPlotter>(
+                           parametricCurve(expressions.front(), expressions.back(), range, m_viewport),
+                           m_viewport, pixels)});
             break;
         }
     }
+}
+
+GraphMetaDataArray GraphFrame::metaData() const {
+    GraphMetaDataArray all;
+    for (const Curve& curve : m_curves) {
+        all.at(curve.slot) = curve.plotter->metaData();
+    }
+    return all;
 }
 
 void GraphFrame::computeTrace() {
@@ -89,13 +91,22 @@ void GraphFrame::computeTrace() {
 }
 
 void GraphFrame::refine(double deadline) {
-    for (Curve& curve : m_curves) {
-        if (curve.refine(deadline)) {
-            return; // out of time
+    // By turns, so that no curve waits for one that never ends.
+    constexpr double turn = 0.001; // seconds
+    std::size_t finished = 0;      // in a row
+    while (finished < m_curves.size()) {
+        const double now = monotonicSeconds();
+        if (now >= deadline) {
+            return;
         }
+        Plotter& plotter = *m_curves[m_turn].plotter;
+        finished = plotter.refine(std::min(deadline, now + turn)) ? 0 : finished + 1;
+        m_turn = (m_turn + 1) % m_curves.size();
     }
 }
 
-bool GraphFrame::isRefined() const { return std::ranges::all_of(m_curves, &Curve::isRefined); }
+bool GraphFrame::isRefined() const {
+    return std::ranges::all_of(m_curves, [](const Curve& curve) { return curve.plotter->isRefined(); });
+}
 
 } // namespace velmora

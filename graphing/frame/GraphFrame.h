@@ -2,9 +2,8 @@
 
 #include "graphing/axes/HashMarks.h"
 #include "graphing/frame/GraphSettings.h"
-#include "graphing/plot/CurvePlotter.h"
 #include "graphing/plot/GraphMetaData.h"
-#include "graphing/plot/PlottedCurve.h"
+#include "graphing/plot/Plotter.h"
 #include "graphing/plot/Viewport.h"
 #include "graphing/trace/GraphTrace.h"
 
@@ -32,26 +31,16 @@ struct FrameTrace {
 /// be painted as often as asked. Curves that are steep are refined further while there is time.
 class GraphFrame {
 public:
-    /// What is drawn for one slot: a function, which may still be refined, or a finished curve.
-    class Curve {
-    public:
-        Curve(std::size_t slot, std::unique_ptr<CurvePlotter> plotter);
-        Curve(std::size_t slot, PlottedCurve finished);
-        std::size_t slot() const { return m_slot; }
-        const PlottedCurve& lines() const { return m_plotter ? m_plotter->curve() : m_finished; }
-        bool isRefined() const { return !m_plotter || m_plotter->isRefined(); }
-        /// See CurvePlotter::refine.
-        bool refine(double deadline) { return m_plotter && m_plotter->refine(deadline); }
-
-    private:
-        std::size_t m_slot;
-        std::unique_ptr<CurvePlotter> m_plotter;
-        PlottedCurve m_finished;
+    struct Curve {
+        std::size_t slot;
+        std::unique_ptr<Plotter> plotter;
     };
 
     GraphFrame() = default;
     /// A viewport that is not usable shows only the background.
-    GraphFrame(const Viewport& viewport, GraphSettings settings, TraceMode traceMode, float traceScreenX);
+    /// Without pixels every sample is taken here; otherwise refine does that, too.
+    GraphFrame(const Viewport& viewport, GraphSettings settings, TraceMode traceMode, float traceScreenX,
+               double pixelsPerPoint = 0);
 
     const Viewport& viewport() const { return m_viewport; }
     const GraphSettings& settings() const { return m_settings; }
@@ -59,11 +48,14 @@ public:
     const HashMarks& verticalMarks() const { return m_vertical; }
     const HashMarks& horizontalMarks() const { return m_horizontal; }
     const std::vector<Curve>& curves() const { return m_curves; }
-    const GraphMetaDataArray& metaData() const { return m_metaData; }
+    /// One record a slot, as of what has been plotted so far.
+    GraphMetaDataArray metaData() const;
+    /// Of the screen that it is drawn for; 0 when its lines are wanted.
+    double pixelsPerPoint() const { return m_pixelsPerPoint; }
     const FrameTrace& trace() const { return m_trace; }
 
-    /// Goes on with what is left of the curves until the clock passes the deadline (seconds of the monotonic
-    /// clock).
+    /// Goes on with what is left of the curves, by turns, until the clock passes the deadline (seconds of the
+    /// monotonic clock).
     void refine(double deadline);
     bool isRefined() const;
 
@@ -77,7 +69,8 @@ private:
     HashMarks m_vertical;
     HashMarks m_horizontal;
     std::vector<Curve> m_curves;
-    GraphMetaDataArray m_metaData;
+    double m_pixelsPerPoint = 0;
+    std::size_t m_turn = 0; ///< the curve that is refined next
     FrameTrace m_trace;
 };
 

@@ -95,8 +95,8 @@ void paintFrame(const GraphFrame& frame, DrawingContext& context) {
     drawAxes(context, frame);
     context.setLineWidth(frame.look().axisWidth());
     for (const GraphFrame::Curve& curve : frame.curves()) {
-        setColors(context, curve.slot());
-        curve.lines().draw(context);
+        setColors(context, curve.slot);
+        curve.plotter->curve().draw(context);
     }
     if (frame.trace().isOn()) {
         drawVerticalTraceLine(context, frame);

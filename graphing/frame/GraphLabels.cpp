@@ -74,8 +74,9 @@ std::vector<LabelRecord> graphLabels(const GraphFrame& frame, const GraphLabelLa
     if (isTracing) {
         label("x=" + displayStringWithDouble(frame.trace().x), axisColor);
     }
+    const GraphMetaDataArray all = frame.metaData();
     for (std::size_t slot = 0; slot < kGraphSlots; ++slot) {
-        const GraphMetaData& metaData = frame.metaData().at(slot);
+        const GraphMetaData& metaData = all.at(slot);
         if (!metaData.wasGraphed || !(frame.settings().showsLabels || isTracing)) {
             continue;
         }

@@ -13,57 +13,95 @@ namespace {
 
 constexpr double kFarApart = 30; // points between two samples, from which on they are not simply joined
 constexpr int kDeepest = 50;
-constexpr int kMostStepsBetweenLooks = 128; // at the clock, which costs as much as an evaluation
-constexpr double kSoon = 0.0005;            // seconds between two looks, at least
+
+// On pixels.
+constexpr int kShallow = 4;      // halvings after which the pieces of a gap are worked on by turns
+constexpr int kStepsOfTurn = 64; // in a piece, before the next one has its turn
+// Steps in a piece that cover nothing new, after which nothing new is expected there. A piece is a sixteenth
+// of a point wide; a descent into a pole takes 50 steps.
+constexpr int kMostFruitless = 512;
+
+Size areaOf(const Viewport& viewport) {
+    return {static_cast<double>(viewport.width), static_cast<double>(viewport.height)};
+}
 
 } // namespace
 
-float CurvePlotter::screenYOf(double value) const {
-    const double h = m_viewport.height;
-    return static_cast<float>(h - h * ((value - m_viewport.yMin) / (m_viewport.yMax - m_viewport.yMin)));
+CurvePlotter::CurvePlotter(std::shared_ptr<const Expression> expression, const Viewport& viewport,
+                           bool acceptsAlmostReal, const DevicePixels& pixels)
+    : Plotter(CurveDrawing(areaOf(viewport), pixels)), m_expression(std::move(expression)),
+      m_viewport(viewport), m_samples(m_expression && m_expression->isGraphable() ? m_expression : nullptr,
+                                      viewport, acceptsAlmostReal) {
+    if (!m_samples.isComplete() && !m_curve.hasPixels()) {
+        Deadline none(HUGE_VAL);
+        m_samples.take(none);
+        connect();
+    }
 }
 
-CurvePlotter::CurvePlotter(std::shared_ptr<const Expression> expression, const Viewport& viewport,
-                           bool acceptsAlmostReal)
-    : m_expression(std::move(expression)), m_viewport(viewport) {
-    if (!m_expression || !m_expression->isGraphable()) {
-        return;
+/// Shows the course of the samples taken so far.
+void CurvePlotter::sketch() {
+    m_curve.clear();
+    m_metaData = {};
+    const auto& samples = m_samples.samples();
+    const ColumnSamples::Sample* former = nullptr;
+    for (const ColumnSamples::Sample& sample : samples) {
+        if (!sample.isTaken) {
+            continue;
+        }
+        const Point point{static_cast<double>(&sample - samples.data()), sample.screenY};
+        m_metaData.wasSometimesComplex = m_metaData.wasSometimesComplex || !sample.isReal;
+        if (former && former->isReal && sample.isReal) {
+            m_metaData.wasGraphed = true;
+            m_curve.lineTo(point);
+        }
+        m_curve.moveTo(point);
+        former = &sample;
     }
-    const auto isRealEnough = [&](ComplexValue v) { return acceptsAlmostReal ? isAlmostReal(v) : isReal(v); };
-    const double dx = (viewport.xMax - viewport.xMin) / viewport.width;
-    double x = viewport.xMin;
-    ComplexValue value = m_expression->valueWithVariableValue(x);
-    float screenY = screenYOf(value.real());
-    bool wasReal = isRealEnough(value);
-    m_curve.moveTo({0, screenY});
-    for (int column = 1; column <= viewport.width; ++column) {
-        const double formerX = x;
-        const float formerY = screenY;
-        x += dx; // added up, so the last column is where the additions lead
-        value = m_expression->valueWithVariableValue(x);
-        screenY = screenYOf(value.real());
-        const bool real = isRealEnough(value);
-        if (!real) {
+}
+
+/// Joins all samples, and leaves gaps to be halved.
+void CurvePlotter::connect() {
+    m_curve.clear();
+    m_metaData = {};
+    const auto& samples = m_samples.samples();
+    Strand gaps;
+    m_curve.moveTo({0, samples.front().screenY});
+    for (std::size_t column = 1; column < samples.size(); ++column) {
+        const ColumnSamples::Sample& former = samples[column - 1];
+        const ColumnSamples::Sample& sample = samples[column];
+        const auto screenX = static_cast<float>(column);
+        if (!sample.isReal) {
             m_metaData.wasSometimesComplex = true;
         }
-        const auto screenX = static_cast<float>(column);
-        if (!real || !wasReal) {
-            m_curve.moveTo({screenX, screenY});
-        } else {
-            m_metaData.wasGraphed = true;
-            if (std::fabs(screenY - formerY) < kFarApart) {
-                m_curve.lineTo({screenX, screenY});
-            } else {
-                m_pending.push_back(
-                    {{formerX, screenX - 1, formerY}, {x, screenX, screenY}, m_curve.addGap(), 1});
-                if (std::isfinite(screenY)) {
-                    m_curve.moveTo({screenX, screenY});
-                }
-            }
+        if (!sample.isReal || !former.isReal) {
+            m_curve.moveTo({screenX, sample.screenY});
+            continue;
         }
-        wasReal = real;
+        m_metaData.wasGraphed = true;
+        if (std::fabs(sample.screenY - former.screenY) < kFarApart) {
+            m_curve.lineTo({screenX, sample.screenY});
+            continue;
+        }
+        gaps.tasks.push_back({{former.x, screenX - 1, former.screenY},
+                              {sample.x, screenX, sample.screenY},
+                              m_curve.addGap(),
+                              1});
+        if (std::isfinite(sample.screenY)) {
+            m_curve.moveTo({screenX, sample.screenY});
+        }
     }
-    std::ranges::reverse(m_pending); // from left to right
+    if (gaps.tasks.empty()) {
+        return;
+    }
+    if (m_curve.hasPixels()) {
+        for (const Task& gap : gaps.tasks) {
+            m_strands.push_back({{gap}});
+        }
+    } else {
+        std::ranges::reverse(gaps.tasks); // from left to right
+        m_strands.push_back(std::move(gaps));
+    }
 }
 
 /// A jump wholly off screen is not worth it: neither end is on screen, and both lie on the same side, or
@@ -77,72 +115,120 @@ bool CurvePlotter::isWorthHalving(double y1, double y2) const {
     return (y1 < 0 && y2 > h) || (y2 < 0 && y1 > h);
 }
 
-void CurvePlotter::investigate(const Task& task) {
-    const Sample& from = task.from;
-    const Sample& to = task.to;
+void CurvePlotter::investigate(const Task& task, Strand& strand, const Deadline& deadline) {
+    const Place& from = task.from;
+    const Place& to = task.to;
     if (!isWorthHalving(from.screenY, to.screenY)) {
         return;
     }
     // The real part alone counts here, also of a complex value; intended: a test for reality at every step
     // would open curves that only round badly.
-    Sample middle{(from.x + to.x) * 0.5, static_cast<float>((from.screenX + to.screenX) * 0.5F), 0};
-    middle.screenY = screenYOf(m_expression->valueWithVariableValue(middle.x).real());
-    const auto next = [&](const Sample& left, const Sample& right) {
+    Place middle{(from.x + to.x) * 0.5, static_cast<float>((from.screenX + to.screenX) * 0.5F), 0};
+    middle.screenY =
+        ColumnSamples::screenYOf(m_expression->valueWithVariableValue(middle.x).real(), m_viewport);
+    if (deadline.hasCutShort()) {
+        strand.tasks.push_back(task);
+        return;
+    }
+    const auto next = [&](const Place& left, const Place& right) {
         if (std::fabs(right.screenY - left.screenY) < kFarApart) {
-            m_pending.push_back({left, right, task.gap, 0});
+            strand.tasks.push_back({left, right, task.gap, 0});
         } else if (task.depth < kDeepest) {
-            m_pending.push_back({left, right, task.gap, task.depth + 1});
+            const Task half{left, right, task.gap, task.depth + 1};
+            if (m_curve.hasPixels() && half.depth <= kShallow + 1) {
+                m_strands.push_back({{half}});
+            } else {
+                strand.tasks.push_back(half);
+            }
         }
     };
     next(middle, to); // is done after the left half
     next(from, middle);
 }
 
-void CurvePlotter::finishWithoutHalving() {
-    std::erase_if(m_pending, [](const Task& task) { return task.depth > 0; });
-    while (!m_pending.empty()) {
-        const Task line = m_pending.back();
-        m_pending.pop_back();
-        m_curve.gap(line.gap).push_back(
-            {{line.from.screenX, line.from.screenY}, {line.to.screenX, line.to.screenY}});
+bool CurvePlotter::drawLine(const Task& line) {
+    return m_curve.addToGap(line.gap, {line.from.screenX, line.from.screenY},
+                            {line.to.screenX, line.to.screenY});
+}
+
+void CurvePlotter::step(Strand& strand, const Deadline& deadline) {
+    const Task task = strand.tasks.back();
+    strand.tasks.pop_back();
+    ++strand.fruitless;
+    if (task.depth == 0) {
+        if (drawLine(task)) {
+            strand.fruitless = 0;
+        }
+    } else if (!m_curve.isFull(task.from.screenX, task.to.screenX)) {
+        investigate(task, strand, deadline);
+    }
+    if (m_curve.hasPixels() && strand.fruitless > kMostFruitless) {
+        strand.tasks.clear();
     }
 }
 
+/// True when the deadline has passed.
+bool CurvePlotter::workOff(Strand& strand, Deadline& deadline) {
+    for (int steps = 0; !strand.tasks.empty() && (steps < kStepsOfTurn || !m_curve.hasPixels()); ++steps) {
+        const bool isLine = strand.tasks.back().depth == 0;
+        step(strand, deadline);
+        if ((!isLine || m_curve.hasPixels()) && deadline.hasPassed()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void CurvePlotter::halve(Deadline& deadline) {
+    bool isOver = false;
+    while (!m_strands.empty() && !isOver) {
+        isOver = workOff(m_strands.front(), deadline);
+        Strand strand = std::move(m_strands.front());
+        m_strands.pop_front();
+        if (strand.tasks.empty()) {
+            continue;
+        }
+        if (m_curve.hasPixels()) {
+            m_strands.push_back(std::move(strand));
+        } else {
+            m_strands.push_front(std::move(strand));
+        }
+    }
+}
+
+void CurvePlotter::finishWithoutHalving() {
+    for (Strand& strand : m_strands) {
+        for (; !strand.tasks.empty(); strand.tasks.pop_back()) {
+            if (strand.tasks.back().depth == 0) {
+                drawLine(strand.tasks.back());
+            }
+        }
+    }
+    m_strands.clear();
+}
+
 bool CurvePlotter::refine(double deadline) {
-    if (m_pending.empty()) {
+    if (isRefined()) {
         return false;
     }
-    const double start = monotonicSeconds();
-    const double end = std::min(deadline, start + kSecondsPerCurve - m_secondsUsed);
-    int steps = 0;
-    int stepsBetweenLooks = 1; // few for expressions that are slow
-    double now = start;
-    while (!m_pending.empty()) {
-        const Task task = m_pending.back();
-        m_pending.pop_back();
-        if (task.depth == 0) {
-            m_curve.gap(task.gap).push_back(
-                {{task.from.screenX, task.from.screenY}, {task.to.screenX, task.to.screenY}});
-            continue;
+    if (!m_samples.isComplete()) {
+        Deadline sampling(deadline);
+        if (m_samples.take(sampling)) {
+            sketch();
+            return true;
         }
-        investigate(task);
-        if (++steps < stepsBetweenLooks) {
-            continue;
-        }
-        const double formerLook = std::exchange(now, monotonicSeconds());
-        if (now > end) {
-            break;
-        }
-        steps = 0;
-        if (now - formerLook < kSoon && stepsBetweenLooks < kMostStepsBetweenLooks) {
-            stepsBetweenLooks *= 2;
+        connect();
+        if (m_strands.empty()) {
+            return false;
         }
     }
-    m_secondsUsed += monotonicSeconds() - start;
+    Deadline halving(std::min(deadline, monotonicSeconds() + kSecondsPerCurve - m_secondsUsed));
+    halve(halving);
+    m_secondsUsed += halving.secondsUsed();
     if (m_secondsUsed >= kSecondsPerCurve) {
         finishWithoutHalving();
     }
-    return !m_pending.empty();
+    return !m_strands.empty();
 }
 
 } // namespace velmora

@@ -1,6 +1,7 @@
 #include "graphing/screen/GraphView.h"
 
 #include "calculator/model/Model.h"
+#include "graphing/axes/NumberPlacement.h"
 #include "graphing/frame/GraphFramePainter.h"
 #include "graphing/frame/GraphLabels.h"
 #include "platform/machine/Clock.h"
@@ -12,9 +13,11 @@ namespace velmora {
 
 namespace {
 
-constexpr double kSliceSeconds = 0.008; // of halving between two events
-constexpr double kRestSeconds = 0.2;    // without a change, until halving goes on
-constexpr double kWideView = 500;       // points, beyond which lines are wider and numbers larger
+constexpr double kMovingSeconds = 0.004; // of plotting in a frame that follows a finger
+constexpr double kSliceSeconds = 0.008;  // of plotting between two events
+constexpr double kRefreshSeconds = 0.1;  // between two redraws while plotting goes on
+constexpr double kRestSeconds = 0.2;     // without a change, until halving goes on
+constexpr double kWideView = 500;        // points, beyond which lines are wider and numbers larger
 
 } // namespace
 
@@ -147,20 +150,24 @@ void GraphView::setNeedsDisplay() {
 }
 
 void GraphView::drawRect(DrawingContext& context) {
-    if (!m_frameIsCurrent) {
-        computeFrame();
+    const double pixelsPerPoint = context.pixelsPerPoint();
+    if (!m_frameIsCurrent || m_frame.pixelsPerPoint() != pixelsPerPoint) {
+        computeFrame(pixelsPerPoint);
         m_frameIsCurrent = true;
         resumeRefinement();
     }
     paintFrame(m_frame, context);
+    m_lastShown = monotonicSeconds();
 }
 
-void GraphView::computeFrame() {
+void GraphView::computeFrame(double pixelsPerPoint) {
     if (Model::m().sameScaleXAndY()) {
         matchXAndYScales();
     }
-    m_frame = GraphFrame(m_viewport, GraphSettings::ofModel(isWide()), m_traceMode, m_screenXForTracing);
-    m_frame.refine(monotonicSeconds() + kSliceSeconds);
+    m_frame = {}; // whose memory the new one takes over
+    m_frame = GraphFrame(m_viewport, GraphSettings::ofModel(isWide()), m_traceMode, m_screenXForTracing,
+                         pixelsPerPoint);
+    m_frame.refine(monotonicSeconds() + kMovingSeconds);
     m_screenXForTracing = m_frame.trace().screenX;
     m_hashMarkLabels = m_frame.verticalMarks().labels;
     const auto& across = m_frame.horizontalMarks().labels;
@@ -169,7 +176,29 @@ void GraphView::computeFrame() {
     m_noGraphLabel = noGraphLabelRecord(Model::m().explainFailureToGraph());
 }
 
+std::vector<LabelRecord> GraphView::numbersBeside(const Rect& taken) const {
+    std::vector<Rect> places{taken};
+    for (const LabelRecord& label : m_graphLabels) {
+        if (!label.text.empty()) {
+            places.push_back(textRect(label));
+        }
+    }
+    return placedNumbers(m_frame.verticalMarks(), m_frame.horizontalMarks(), m_size, places);
+}
+
 bool GraphView::isRefined() const { return m_frame.isRefined(); }
+
+void GraphView::refineSlice() {
+    const double now = monotonicSeconds();
+    m_frame.refine(now + kSliceSeconds);
+    if (isRefined()) {
+        m_refinementTimer.cancel();
+    }
+    if (isRefined() || now - m_lastShown >= kRefreshSeconds) {
+        m_graphLabels = graphLabels(m_frame, GraphLabelLayout::inView(m_size.width));
+        m_needsDisplay.emit();
+    }
+}
 
 void GraphView::holdRefinement() { m_refinementTimer.cancel(); }
 
@@ -178,13 +207,7 @@ void GraphView::resumeRefinement() {
         return;
     }
     m_refinementTimer = startTimer(kRestSeconds, TimerKind::OneShot, [this] {
-        m_refinementTimer = startTimer(0, TimerKind::Repeating, [this] {
-            m_frame.refine(monotonicSeconds() + kSliceSeconds);
-            if (isRefined()) {
-                m_refinementTimer.cancel();
-            }
-            m_needsDisplay.emit();
-        });
+        m_refinementTimer = startTimer(0, TimerKind::Repeating, [this] { refineSlice(); });
     });
 }
 

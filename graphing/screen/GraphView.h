@@ -14,9 +14,9 @@ namespace velmora {
 /// The plotting area: axes, grid, the curves of up to four equations, their labels and the trace line.
 ///
 /// It holds what is seen of the plane and what is traced. A change asks for a redraw; drawRect then works out
-/// the new GraphFrame and has it painted. Where curves are steep, halving between samples gets a few
-/// milliseconds of that frame and goes on while the view is at rest, in slices between events, each of which
-/// asks for a redraw of the frame so far.
+/// the new GraphFrame and has it painted. What its curves need beyond a few milliseconds goes on while the
+/// view is at rest, in slices between events; some ten times a second they ask for a redraw of the frame so
+/// far. A context with pixels of its own is painted what the curves cover, any other one all of their lines.
 class GraphView {
 public:
     GraphView();
@@ -92,13 +92,17 @@ public:
 
     /// The text records over the drawing, as of the last frame.
     const std::vector<LabelRecord>& hashMarkLabelArray() const { return m_hashMarkLabels; }
+    /// The numbers at the hash marks as they are written: on screen, clear of ticks, labels and each other,
+    /// and of one more place that is taken. Numbers without room are left out.
+    std::vector<LabelRecord> numbersBeside(const Rect& taken) const;
     const std::vector<LabelRecord>& graphLabelArray() const { return m_graphLabels; }
     const LabelRecord& noGraphLabel() const { return m_noGraphLabel; }
     /// One record a slot.
-    const GraphMetaDataArray& metadataArray() const { return m_frame.metaData(); }
+    GraphMetaDataArray metadataArray() const { return m_frame.metaData(); }
 
 private:
-    void computeFrame();
+    void computeFrame(double pixelsPerPoint);
+    void refineSlice();
     void changed(bool hasChanged);
     bool isWide() const;
     bool isTracing() const { return m_traceMode != TraceMode::None; }
@@ -110,6 +114,7 @@ private:
     double m_implicitGraphSpeedMultiplier = 1;
     GraphFrame m_frame;
     bool m_frameIsCurrent = false;
+    double m_lastShown = 0; ///< when the frame was last drawn, by the monotonic clock
     std::vector<LabelRecord> m_hashMarkLabels;
     std::vector<LabelRecord> m_graphLabels;
     LabelRecord m_noGraphLabel;

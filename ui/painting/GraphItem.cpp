@@ -16,8 +16,6 @@
 #include <QTouchEvent>
 #include <QWheelEvent>
 
-#include <algorithm>
-
 namespace velmora {
 
 namespace {
@@ -26,18 +24,6 @@ namespace {
 double secondsOf(const QInputEvent& event) { return static_cast<double>(event.timestamp()) / 1000; }
 
 Point toPoint(QPointF point) { return {point.x(), point.y()}; }
-
-/// Of a number at the edge the frame keeps only the centre on the screen; it moves in until all of it shows.
-LabelRecord movedInto(const Rect& bounds, LabelRecord label) {
-    constexpr double margin = 2;
-    label.fontSize = fittedFontSize(label);
-    const double half = textSize(label).width / 2 + margin;
-    const double centre = label.frame.x + label.frame.width / 2;
-    if (2 * half < bounds.width) {
-        label.frame.x += std::clamp(centre, bounds.x + half, bounds.x + bounds.width - half) - centre;
-    }
-    return label;
-}
 
 /// A name that no picture has yet, with the time, so that pictures sort by it.
 QString newPicturePath(const QDir& folder) {
@@ -104,8 +90,10 @@ void GraphItem::paint(QPainter& painter) {
         QtDrawingContext context(painter, bounds);
         view.drawRect(context);
     }
-    for (const LabelRecord& number : view.hashMarkLabelArray()) {
-        paintLabel(painter, movedInto(bounds, number), view.backgroundColor());
+    paintTraceHandle(painter);
+    for (const LabelRecord& number :
+         view.numbersBeside({m_covered.x(), m_covered.y(), m_covered.width(), m_covered.height()})) {
+        paintLabel(painter, number, view.backgroundColor());
     }
     for (const LabelRecord& label : view.graphLabelArray()) {
         paintLabel(painter, label, view.backgroundColor());
@@ -114,6 +102,26 @@ void GraphItem::paint(QPainter& painter) {
     if (m_screen) {
         Q_EMIT m_screen->drawn();
     }
+}
+
+/// The trace line has the colour of the grid; a halo and a handle tell it from the grid's lines.
+void GraphItem::paintTraceHandle(QPainter& painter) const {
+    const GraphView& view = m_controller->graphView();
+    if (view.traceMode() == TraceMode::None) {
+        return;
+    }
+    const double x = view.screenXForTracing();
+    constexpr double halo = 5;
+    constexpr double radius = 7;
+    constexpr double aboveEdge = 14;
+    QColor color(0x3d, 0x8b, 0xe8);
+    const QPointF handle(x, height() - aboveEdge);
+    painter.setPen(QPen(toQColor(view.backgroundColor()), 1.5));
+    painter.setBrush(color);
+    painter.drawEllipse(handle, radius, radius);
+    constexpr double faint = 0.25;
+    color.setAlphaF(faint);
+    painter.fillRect(QRectF(x - halo / 2, 0, halo, height()), color);
 }
 
 std::vector<std::uint8_t> GraphItem::png() {

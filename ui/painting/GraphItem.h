@@ -17,6 +17,8 @@ class GraphItem : public DevicePixelItem, public GraphPicture {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(velmora::GraphAdapter* screen READ screen WRITE setScreen REQUIRED)
+    /// What stands over the graph; the numbers of the axes keep clear of it.
+    Q_PROPERTY(QRectF covered MEMBER m_covered)
 
 public:
     explicit GraphItem(QQuickItem* parent = nullptr);
@@ -42,10 +44,11 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    GraphViewController* controller() const;
+    void paintTraceHandle(QPainter& painter) const;
 
     QPointer<GraphAdapter> m_screen;
     std::shared_ptr<GraphViewController> m_controller;
+    QRectF m_covered;
     Subscription m_redraws;
     TapCounter m_taps;
     ShakeSensor m_shakes;

@@ -2,7 +2,6 @@
 
 #include <QLineF>
 #include <QList>
-#include <QRectF>
 
 class QPainter;
 class QPen;
@@ -15,15 +14,12 @@ class LineRun {
 public:
     bool isEmpty() const { return m_lines.isEmpty(); }
     void append(const QList<QLineF>& lines) { m_lines.append(lines); }
-    /// Paints the lines and forgets them. `isOpaque`: the pen covers what lies below it.
-    void paint(QPainter& painter, const QPen& pen, bool isOpaque);
+    /// Paints the lines and forgets them.
+    void paint(QPainter& painter, const QPen& pen);
 
 private:
     struct Device;
 
-    /// Takes the lines out that lie upon one another in a column of pixels, and gives the rectangles that
-    /// they cover together.
-    QList<QRectF> takeOverdrawn(const Device& device, double width);
     QList<QLineF> inPieces(const Device& device) const;
 
     QList<QLineF> m_lines;

@@ -2,9 +2,13 @@
 
 #include "ui/adapters/QtConversions.h"
 
+#include <QImage>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 
 namespace velmora {
@@ -39,6 +43,43 @@ std::optional<QLineF> clipped(Point a, Point b, const Rect& bounds) {
     return QLineF(a.x + enter * dx, a.y + enter * dy, a.x + leave * dx, a.y + leave * dy);
 }
 
+/// The picture that is painted on; null for another kind of device or of pixels.
+QImage* pictureOf(const QPainter& painter) {
+    auto* picture = dynamic_cast<QImage*>(painter.device());
+    return picture && picture->format() == QImage::Format_RGB32 ? picture : nullptr;
+}
+
+/// Most of a row is not covered at all, or wholly: eight pixels of either kind are dealt with at once.
+void blendRow(QRgb* pixels, const std::uint8_t* alpha, int begin, int end, QRgb color) {
+    constexpr int block = 8;
+    constexpr std::uint64_t nothing = 0;
+    constexpr std::uint64_t everything = ~nothing;
+    constexpr unsigned whole = 255;
+    for (int i = begin; i < end;) {
+        if (i + block <= end) {
+            std::uint64_t eight = 0;
+            std::memcpy(&eight, alpha + i, sizeof eight);
+            if (eight == nothing || eight == everything) {
+                if (eight == everything) {
+                    std::fill_n(pixels + i, block, color);
+                }
+                i += block;
+                continue;
+            }
+        }
+        const int stop = std::min(i + block, end);
+        for (; i < stop; ++i) {
+            const unsigned cover = alpha[i];
+            const auto mixed = [&](int shift) {
+                const unsigned over = (color >> shift) & whole;
+                const unsigned below = (pixels[i] >> shift) & whole;
+                return ((over * cover + below * (whole - cover) + whole / 2) / whole) << shift;
+            };
+            pixels[i] = 0xff000000U | mixed(16) | mixed(8) | mixed(0);
+        }
+    }
+}
+
 } // namespace
 
 QtDrawingContext::QtDrawingContext(QPainter& painter, const Rect& bounds)
@@ -53,6 +94,30 @@ void QtDrawingContext::setLineWidth(double width) { m_lineWidth = width; }
 void QtDrawingContext::setStrokeColor(const Color& color) { m_strokeColor = color; }
 
 void QtDrawingContext::setFillColor(const Color& color) { m_fillColor = color; }
+
+double QtDrawingContext::pixelsPerPoint() const {
+    const QImage* picture = pictureOf(m_painter);
+    const QTransform& device = m_painter.deviceTransform();
+    const bool isPlain = device.type() <= QTransform::TxScale && device.m11() == device.m22() &&
+                         device.dx() == 0 && device.dy() == 0;
+    return picture && isPlain ? device.m11() : 0;
+}
+
+void QtDrawingContext::fillCoverage(const PixelCoverage& coverage) {
+    flush();
+    QImage* picture = pictureOf(m_painter);
+    if (!picture) {
+        return;
+    }
+    const QRgb color = toQColor(m_fillColor).rgb();
+    const int rows = std::min(coverage.rows, picture->height());
+    for (int row = 0; row < rows; ++row) {
+        const auto& [begin, end] = coverage.extents[row];
+        auto* pixels = reinterpret_cast<QRgb*>(picture->scanLine(row)); // a picture of four bytes a pixel
+        blendRow(pixels, coverage.alpha + std::size_t(row) * std::size_t(coverage.columns), begin,
+                 std::min(end, picture->width()), color);
+    }
+}
 
 void QtDrawingContext::moveTo(Point point) {
     m_pen = point;
@@ -112,10 +177,7 @@ void QtDrawingContext::flush() {
     if (m_run.isEmpty()) {
         return;
     }
-    // Opaque lines meet with square ends, which closes the corners between them; lines that shine
-    // through stay flat, or they would be darker where they overlap.
-    const Qt::PenCapStyle cap = m_penColor.alpha < 1 ? Qt::FlatCap : Qt::SquareCap;
-    m_run.paint(m_painter, QPen(toQColor(m_penColor), m_penWidth, Qt::SolidLine, cap), m_penColor.alpha >= 1);
+    m_run.paint(m_painter, QPen(toQColor(m_penColor), m_penWidth, Qt::SolidLine, Qt::FlatCap));
 }
 
 void QtDrawingContext::strokeEllipse(const Rect& rect) {

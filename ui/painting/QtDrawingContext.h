@@ -26,6 +26,9 @@ public:
     void setStrokeColor(const Color& color) override;
     void setFillColor(const Color& color) override;
     void setAlignsToPixels(bool aligns) override { m_alignsToPixels = aligns; }
+    /// Where the painter draws on a picture in device pixels, from its corner and without turning it.
+    double pixelsPerPoint() const override;
+    void fillCoverage(const PixelCoverage& coverage) override;
     void moveTo(Point point) override;
     /// A line with an end that is not finite is left out and lifts the pen.
     void lineTo(Point point) override;

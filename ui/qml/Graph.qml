@@ -16,6 +16,7 @@ FocusScope {
         anchors.fill: parent
         screen: root.screen
         focus: true
+        covered: Qt.rect(menuButton.x + face.x, menuButton.y + face.y, face.width, face.height)
         Accessible.role: Accessible.Graphic
         Accessible.name: qsTr("Graph")
         Accessible.description: root.screen.spokenGraph
@@ -39,6 +40,7 @@ FocusScope {
         Accessible.onPressAction: press()
 
         Rectangle {
+            id: face
             anchors.centerIn: parent
             width: 30
             height: 30

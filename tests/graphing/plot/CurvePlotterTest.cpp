@@ -108,7 +108,7 @@ public:
     mutable int count = 0;
 };
 
-RecordingContext drawn(const PlottedCurve& curve) {
+RecordingContext drawn(const CurveDrawing& curve) {
     RecordingContext context;
     curve.draw(context);
     return context;
@@ -241,11 +241,11 @@ TEST(ParameterCurves, goThroughTheirSteps) {
         double firstAngle; ///< radians, of the point where the pen is set down
     };
     for (const Row& row : {Row{0, 2 * pi, false, 0}, Row{90, 450, true, 90}}) {
-        GraphMetaData data;
-        const auto commands =
-            drawn(graphPolar(*parsed("1"), {row.start, row.end}, row.degrees, view, data)).commands;
+        const ParameterPlotter plotter(polarCurve(parsed("1"), {row.start, row.end}, row.degrees, view),
+                                       view);
+        const auto commands = drawn(plotter.curve()).commands;
         ASSERT_EQ(commands.size(), 1002U);
-        EXPECT_TRUE(data.wasGraphed);
+        EXPECT_TRUE(plotter.metaData().wasGraphed);
         EXPECT_NEAR(commands[0].a, 200 + 100 * std::cos(row.firstAngle), 1e-4);
         EXPECT_NEAR(commands[0].b, 200 - 100 * std::sin(row.firstAngle), 1e-4);
         const double unit = row.degrees ? pi / 180 : 1;
@@ -256,16 +256,15 @@ TEST(ParameterCurves, goThroughTheirSteps) {
             EXPECT_NEAR(commands[std::size_t(i) + 1].b, 200 - 100 * std::sin(angle), 1e-4) << i;
         }
     }
-    GraphMetaData data;
-    const auto pair =
-        drawn(graphParametrically(*parsed("t + i"), *parsed("t ^ 2"), {-1, 1}, view, data)).commands;
+    const ParameterPlotter plotter(parametricCurve(parsed("t + i"), parsed("t ^ 2"), {-1, 1}, view), view);
+    const auto pair = drawn(plotter.curve()).commands;
     ASSERT_EQ(pair.size(), 1002U);
     EXPECT_EQ(pair[0], (RecordingContext::Command{Kind::Move, 100, 100}));
     EXPECT_NEAR(pair[1000].a, 200 + 100 * 0.998, 1e-4);
-    EXPECT_FALSE(data.wasSometimesComplex);
-    GraphMetaData none;
-    EXPECT_TRUE(drawn(graphParametrically(*parsed("t"), *parsed(""), {0, 1}, view, none)).commands.empty());
-    EXPECT_FALSE(none.wasGraphed);
+    EXPECT_FALSE(plotter.metaData().wasSometimesComplex);
+    const ParameterPlotter none(parametricCurve(parsed("t"), parsed(""), {0, 1}, view), view);
+    EXPECT_TRUE(drawn(none.curve()).commands.empty());
+    EXPECT_FALSE(none.metaData().wasGraphed);
 }
 
 } // namespace
