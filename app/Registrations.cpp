@@ -6,6 +6,7 @@
 #include "calculator/pages/PageViewController.h"
 #include "calculator/settings/RangeViewController.h"
 #include "calculator/settings/SettingsViewController.h"
+#include "calculator/table/ValueTableViewController.h"
 #include "graphing/equations/EquationsViewController.h"
 #include "graphing/equations/ParametricEquationsViewController.h"
 #include "graphing/screen/GraphViewController.h"
@@ -49,8 +50,9 @@ constexpr ScreenRow kScreens[] = {
     {"QuadraticSolverViewController", makeSolver<2>},
     {"RangeViewController", make<RangeViewController>},
     {"SettingsViewController", make<SettingsViewController>},
-    {"UnitConvertViewController", make<UnitConvertViewController>},
     {"TriangleSolverViewController", make<TriangleSolverViewController>},
+    {"UnitConvertViewController", make<UnitConvertViewController>},
+    {"ValueTableViewController", make<ValueTableViewController>},
 };
 
 } // namespace

@@ -32,6 +32,9 @@ public:
     /// A text below the row that explains it, or empty.
     const std::string& explanation() const { return m_explanation; }
     void setExplanation(std::string text) { m_explanation = std::move(text); }
+    /// What an empty text field shows.
+    const std::string& placeholder() const { return m_placeholder; }
+    void setPlaceholder(std::string text) { m_placeholder = std::move(text); }
     /// Whether the object that the row edits exists.
     virtual bool isEnabled() const { return true; }
 
@@ -54,6 +57,7 @@ public:
 private:
     std::string m_title;
     std::string m_explanation;
+    std::string m_placeholder;
 };
 
 /// A row that edits one property of a settings target. The target is found by its name whenever it is

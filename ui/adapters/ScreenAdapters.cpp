@@ -4,6 +4,8 @@
 #include "calculator/lists/ConstantEditViewController.h"
 #include "calculator/lists/FunctionSelectViewController.h"
 #include "calculator/pages/PageViewController.h"
+#include "calculator/table/RowSelectedViewController.h"
+#include "calculator/table/ValueTableViewController.h"
 #include "graphing/equations/GenericEquationsViewController.h"
 #include "graphing/screen/GraphViewController.h"
 #include "platform/text/Log.h"
@@ -22,9 +24,11 @@
 #include "ui/adapters/PageAdapter.h"
 #include "ui/adapters/PickTableAdapter.h"
 #include "ui/adapters/PolynomialSolverAdapter.h"
+#include "ui/adapters/RowSelectedAdapter.h"
 #include "ui/adapters/SettingsTableAdapter.h"
 #include "ui/adapters/TriangleSolverAdapter.h"
 #include "ui/adapters/UnitConvertAdapter.h"
+#include "ui/adapters/ValueTableAdapter.h"
 
 namespace velmora {
 
@@ -52,6 +56,8 @@ constexpr std::unique_ptr<QObject> (*kMakers[])(const ControllerPointer&, SceneA
     make<OrvPickTableViewController, PickTableAdapter>,
     make<UnitConvertViewController, UnitConvertAdapter>,
     make<DateCalculatorViewController, DateCalculatorAdapter>,
+    make<ValueTableViewController, ValueTableAdapter>,
+    make<RowSelectedViewController, RowSelectedAdapter>,
 };
 
 } // namespace

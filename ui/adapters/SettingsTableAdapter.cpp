@@ -106,6 +106,8 @@ QVariant SettingsTableAdapter::data(const QModelIndex& index, int role) const {
         return row.cell ? row.cell->fraction() : 0;
     case ExplanationRole:
         return row.cell ? QString::fromStdString(row.cell->explanation()) : QString();
+    case PlaceholderRole:
+        return row.cell ? QString::fromStdString(row.cell->placeholder()) : QString();
     case EnabledRole:
         return !row.cell || row.cell->isEnabled();
     default:
@@ -121,6 +123,7 @@ QHash<int, QByteArray> SettingsTableAdapter::roleNames() const {
             {ChosenRole, "chosen"},
             {FractionRole, "fraction"},
             {ExplanationRole, "explanation"},
+            {PlaceholderRole, "placeholder"},
             {EnabledRole, "usable"}};
 }
 

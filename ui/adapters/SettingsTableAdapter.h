@@ -31,6 +31,7 @@ public:
         ChosenRole,
         FractionRole,
         ExplanationRole,
+        PlaceholderRole,
         EnabledRole
     };
 

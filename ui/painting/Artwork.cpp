@@ -191,6 +191,14 @@ void drawReference(const Canvas& canvas) {
     painter.drawPath(book);
 }
 
+void drawTable(const Canvas& canvas) {
+    QPainter& painter = useLinePen(canvas);
+    painter.drawRoundedRect(QRectF(3, 4, 18, 16), 1.8, 1.8);
+    painter.drawLine(QPointF(3, 9), QPointF(21, 9));
+    painter.drawLine(QPointF(3, 14.5), QPointF(21, 14.5));
+    painter.drawLine(QPointF(9.5, 4), QPointF(9.5, 20));
+}
+
 void drawSettings(const Canvas& canvas) {
     QPainter& painter = useLinePen(canvas);
     constexpr double left = 3.5;
@@ -268,6 +276,7 @@ const std::array kDrawings{
     Drawing{QLatin1String("reference.png"), drawReference},
     Drawing{QLatin1String("triangleSolver.png"), drawTriangleSolver},
     Drawing{QLatin1String("polynomialSolver.png"), drawPolynomialSolver},
+    Drawing{QLatin1String("table.png"), drawTable},
     Drawing{QLatin1String("settings.png"), drawSettings},
     Drawing{QLatin1String("heart"), drawHeart},
     Drawing{QLatin1String("questionMark.png"), drawQuestionMark},

@@ -14,6 +14,7 @@ constexpr const char* kPreferredFamily = "Inter";
 // The key faces ask for this one; where it is missing its stand-ins differ much in width, so it is the
 // system font, and keys and lines look alike.
 constexpr std::string_view kKeyFontName = "Helvetica";
+constexpr std::string_view kBoldFontName = "Helvetica-Bold";
 
 constexpr double kTypographicPointsPerInch = 72;
 
@@ -33,8 +34,9 @@ QString systemFontFamily() {
 }
 
 QFont sceneFont(std::string_view name, double size) {
-    QFont font(name.empty() || name == kKeyFontName ? systemFontFamily()
-                                                    : QString::fromUtf8(name.data(), qsizetype(name.size())));
+    const bool isSystemFont = name.empty() || name == kKeyFontName || name == kBoldFontName;
+    QFont font(isSystemFont ? systemFontFamily() : QString::fromUtf8(name.data(), qsizetype(name.size())));
+    font.setBold(name == kBoldFontName);
     // A font's own unit is 1/72 inch; the scene's point is a pixel before scaling. Only this way keeps
     // fractions of a size.
     font.setPointSizeF(size > 0 ? size * kTypographicPointsPerInch / dotsPerInch() : 1);

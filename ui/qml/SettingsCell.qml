@@ -13,6 +13,7 @@ Loader {
     required property int chosen
     required property double fraction
     required property string explanation
+    required property string placeholder
     required property bool usable
     required property SettingsTableAdapter screen
 
@@ -106,6 +107,7 @@ Loader {
         TextFieldRow {
             title: root.title
             value: root.value
+            placeholder: root.placeholder
             inputMethodHints: Qt.ImhPreferNumbers | Qt.ImhNoPredictiveText
             onCommitted: text => root.screen.setText(root.index, text)
         }

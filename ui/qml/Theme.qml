@@ -13,6 +13,7 @@ QtObject {
     readonly property color secondaryText: "#a9b1bc"
     readonly property color accent: "#8fbcff"     // what can be tapped: texts, switches, the chosen item
     readonly property color chosen: "#2f62a8"     // the ground of what is chosen or on
+    readonly property color markedRow: "#1d3556"  // of a table, opened or reached by keys last
     readonly property color danger: "#ff8a80"
 
     readonly property int titleSize: 17
