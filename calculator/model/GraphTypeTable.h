@@ -12,7 +12,7 @@ namespace velmora {
 /// Everything that follows from a graph type.
 struct GraphTypeRow {
     using List = ExpressionList& (Model::*)();
-    using Bound = double (Model::*)() const;
+    using Bound = double (ModelSettings::*)() const;
 
     GraphType type;
     const char* choice; ///< its name where it is chosen

@@ -221,7 +221,7 @@ TEST_P(Screens, everySettingIsChangedOnItsRow) {
     picture("settings");
     struct Switch {
         const char* title;
-        bool (Model::*get)() const;
+        bool (ModelSettings::*get)() const;
         bool after;
     };
     const Switch switches[] = {{"Trailing zeroes", &Model::trailingZeroes, true},
@@ -242,7 +242,7 @@ TEST_P(Screens, everySettingIsChangedOnItsRow) {
     struct Pick {
         const char* row;
         const char* choice;
-        int (Model::*get)() const;
+        int (ModelSettings::*get)() const;
         int after;
     };
     const Pick picks[] = {{"Angles, Radians", "Degrees", &Model::angleMode, 1},
