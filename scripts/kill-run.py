@@ -34,8 +34,8 @@ class Round:
             ["Xvfb", "-displayfd", str(writing), "-screen", "0", "400x700x24", "-nolisten", "tcp"],
             pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
-        self.display = ":" + os.read(reading, 16).decode().strip()
-        os.close(reading)
+        with os.fdopen(reading) as numbers:
+            self.display = ":" + numbers.readline().strip()
         self.environment = dict(os.environ, DISPLAY=self.display, XDG_DATA_HOME=str(home),
                                 QT_QPA_PLATFORM="xcb", QT_QUICK_BACKEND="software")
         self.environment.pop("WAYLAND_DISPLAY", None)
