@@ -128,6 +128,7 @@ void VelmoraAppDelegate::applicationDidFinishLaunching() {
     }
     m_tabBarController->setViewControllers(std::move(tabs));
     Model::m().setTabBarController(m_tabBarController);
+    m_calculator->takeUpHalfTypedLine();
     if (Model::m().unitConverterIsPushed()) {
         m_calculator->unitsButtonPressed();
     }

@@ -11,11 +11,18 @@ constexpr double kSideMargin = 10;
 constexpr double kRowHeightOfDesign = 38; // the row and its font are scaled alike
 constexpr double kFontSizeOfDesign = 15;
 
+// Muted, at 8.7 to 1 on black.
+constexpr Color kErrorColor{0.80, 0.62, 0.50, 1};
+
 } // namespace
 
 void DisplayHistoryCell::setTexts(std::string input, std::string output) {
     m_inputLabel.text = std::move(input);
     m_outputLabel.text = std::move(output);
+}
+
+void DisplayHistoryCell::setHasValue(bool hasValue) {
+    m_outputLabel.textColor = hasValue ? Color::white(1) : kErrorColor;
 }
 
 void DisplayHistoryCell::layout(Size size) {

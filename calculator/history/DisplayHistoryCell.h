@@ -23,6 +23,8 @@ public:
         : m_table(table), m_row(row) {}
 
     void setTexts(std::string input, std::string output);
+    /// A result that is no value is told apart by its colour.
+    void setHasValue(bool hasValue);
     void layout(Size size) override;
 
     const LabelRecord& inputLabel() const { return m_inputLabel; }

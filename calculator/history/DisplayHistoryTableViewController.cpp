@@ -1,11 +1,24 @@
 #include "calculator/history/DisplayHistoryTableViewController.h"
 
+#include "calculator/history/CopiedResult.h"
 #include "calculator/keyboard/KeyboardScreen.h"
 #include "calculator/keyboard/KeyboardSizes.h"
 #include "calculator/model/Model.h"
 #include "platform/machine/Pasteboard.h"
 
+#include <cmath>
+
 namespace velmora {
+
+namespace {
+
+/// Whether the result is a number, and not an error's text or "Undefined".
+bool hasValue(const ExpressionWithTokenArray& entry) {
+    const ComplexValue value = entry.resultValue();
+    return !std::isnan(value.real()) && !std::isnan(value.imag());
+}
+
+} // namespace
 
 int DisplayHistoryTableViewController::nTipCells() const {
     return Model::m().shouldShowSettingsTip() ? 1 : 0;
@@ -13,6 +26,12 @@ int DisplayHistoryTableViewController::nTipCells() const {
 
 int DisplayHistoryTableViewController::numberOfRows() const {
     return nTipCells() + Model::m().history().nExpressions();
+}
+
+std::string DisplayHistoryTableViewController::hint() const {
+    return Model::m().history().nExpressions() > 0
+               ? std::string()
+               : "Try 2^10 or sqrt(2) and press =\nA tap on a result uses it again.";
 }
 
 double DisplayHistoryTableViewController::rowHeight() const {
@@ -35,6 +54,7 @@ DisplayHistoryCell DisplayHistoryTableViewController::historyCell(int row, doubl
     const int index = row - nTipCells();
     if (const ExpressionWithTokenArray* entry = history.entryAtIndex(index)) {
         cell.setTexts(history.expressionString(index), entry->resultText());
+        cell.setHasValue(hasValue(*entry));
     }
     cell.layout({width, rowHeight()});
     return cell;
@@ -45,7 +65,7 @@ void DisplayHistoryTableViewController::copyFromRow(int row, bool left) const {
         if (left) {
             entry->copyToPasteboard();
         } else {
-            generalPasteboard().setText(entry->resultText());
+            generalPasteboard().setItems({copiedResult(*entry)});
         }
     }
 }

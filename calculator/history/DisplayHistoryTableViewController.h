@@ -27,8 +27,11 @@ public:
     /// The cell of a table row. A row outside the history has empty texts.
     DisplayHistoryCell historyCell(int row, double width) const;
 
-    /// Copies a row's line as the entry line does (left), or its result as text. A row outside the history
-    /// copies nothing.
+    /// What to try, in lines, while there is no row yet; empty afterwards. It is no row of the table.
+    std::string hint() const;
+
+    /// Copies a row's line as the entry line does (left), or its result in full precision. A row outside the
+    /// history copies nothing.
     void copyFromRow(int row, bool left) const;
 
     /// Lets the screen read the rows and their height anew.

@@ -20,6 +20,7 @@ struct KeyAppearance {
     double fontSize = 0; ///< points
     Color titleColor = Color::white(1);
     std::string accessibleName; ///< what a screen reader says
+    bool repeats = false;       ///< acts again and again while a finger rests on it
     bool chosen = false;        ///< looks pressed: the sign in force of an inequality
     bool operator==(const KeyAppearance&) const = default;
 };

@@ -22,6 +22,47 @@ double widthInLabel(std::string_view text, const LabelRecord& label) {
     return textWidth(text, label.fontSize, label.fontName);
 }
 
+/// As many characters from the start as the label holds before an ellipsis.
+std::string startFittedToLabel(std::string_view text, const LabelRecord& label) {
+    const std::string ellipsis = "…";
+    std::string fitted;
+    for (const std::string& character : splitCodePoints(text)) {
+        if (widthInLabel(fitted + character + ellipsis, label) > label.frame.width) {
+            break;
+        }
+        fitted += character;
+    }
+    return fitted + ellipsis;
+}
+
+/// What a label of one line draws: its text, cut so that the cursor shows. Where what stands before the
+/// cursor fits, the tail gives way; else the line ends at the cursor and its head does.
+std::string lineWithCursor(const EntryLineText& text, const LabelRecord& label) {
+    std::string fitted = textFittedToLabel(text, label);
+    if (widthInLabel(fitted, label) <= label.frame.width || text.beforeCursor.size() == text.line.size()) {
+        return fitted;
+    }
+    const std::string start = startFittedToLabel(fitted, label);
+    const bool showsCursor = codePointCount(start) > codePointCount(text.prefix + text.beforeCursor) + 1;
+    return showsCursor ? start : text.beforeCursor;
+}
+
+/// Where the tokens of a line begin in its text with the cursor mark and the letters typed there, which go
+/// with the token before them.
+std::vector<std::size_t> tokenStarts(const ExpressionWithTokenArray& buffer, std::size_t typedLetters) {
+    std::vector<std::size_t> starts;
+    std::size_t next = 0;
+    for (int gap = 0; gap < buffer.count(); ++gap) {
+        const bool isAtCursor = gap == buffer.cursorPosition();
+        next += isAtCursor ? typedLetters : 0;
+        starts.push_back(next);
+        next += (isAtCursor ? 1 : 0) +
+                codePointCount(buffer.tokenArray()[static_cast<std::size_t>(gap)].toDisplayString());
+    }
+    starts.push_back(next);
+    return starts;
+}
+
 /// The lines that a label shows of a text that may have more than its frame holds.
 struct LinesShown {
     int first = 0;
@@ -88,6 +129,7 @@ EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, const Editin
     const std::string beforeCursor = buffer.beforeCursorString();
     text.line.insert(beforeCursor.size(), typedName);
     text.beforeCursor = beforeCursor + typedName;
+    text.tokenStarts = tokenStarts(buffer, codePointCount(typedName));
     if (target && mode.namesSlot) {
         text.prefix = target->fullFunctionNameWithIndex(whichEquation) + "=";
     }
@@ -98,36 +140,39 @@ EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, const Editin
             text.suffix = "= " + heights->heightsAsString();
         }
     }
+    for (std::size_t& start : text.tokenStarts) {
+        start += codePointCount(text.prefix);
+    }
     return text;
 }
 
 std::string textFittedToLabel(const EntryLineText& text, const LabelRecord& label) {
     std::string whole = text.whole();
-    if (label.lineCount == 1 && widthInLabel(whole, label) > label.frame.width &&
-        widthInLabel(text.beforeCursor, label) > label.frame.width) {
-        return text.beforeCursor;
-    }
-    return whole;
+    const bool isCut = label.lineCount == 1 && widthInLabel(whole, label) > label.frame.width &&
+                       widthInLabel(text.beforeCursor, label) > label.frame.width;
+    return isCut ? text.beforeCursor : whole;
 }
 
 std::string linesInLabel(const EntryLineText& text, const LabelRecord& label) {
     if (label.lineCount == 1) {
-        return textFittedToLabel(text, label);
+        return lineWithCursor(text, label);
     }
-    const WrappedText wrapped(textFittedToLabel(text, label), label);
+    const WrappedText wrapped(textFittedToLabel(text, label), label, text.tokenStarts);
     const LinesShown shown = linesShown(text, wrapped, label);
     return wrapped.lines(shown.first, shown.count);
 }
 
 int tokenGapAtPoint(Point point, const LabelRecord& label, const EntryLineText& text,
                     const ExpressionWithTokenArray& buffer) {
-    const std::string fitted = textFittedToLabel(text, label);
-    const WrappedText wrapped(fitted, label);
+    const std::string fitted =
+        label.lineCount == 1 ? lineWithCursor(text, label) : textFittedToLabel(text, label);
+    const WrappedText wrapped(fitted, label, text.tokenStarts);
     const int line = lineAtHeight(point.y, label, linesShown(text, wrapped, label));
     const double x = point.x - startOfLine(label, wrapped.placeBefore(wrapped.characterCount()).x);
     int nearest = 0;
     std::pair<int, double> smallest{std::numeric_limits<int>::max(), 0};
-    const auto gaps = charactersBeforeGaps(text, buffer, fitted != text.whole());
+    const auto gaps =
+        charactersBeforeGaps(text, buffer, fitted == text.beforeCursor && fitted != text.whole());
     for (std::size_t gap = 0; gap < gaps.size(); ++gap) {
         // A gap where a line breaks is in reach from both lines.
         for (const auto& place : {wrapped.placeBefore(gaps[gap]), wrapped.placeBehindPrevious(gaps[gap])}) {

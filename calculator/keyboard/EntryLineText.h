@@ -3,6 +3,7 @@
 #include "toolkit/LabelRecord.h"
 
 #include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -17,6 +18,8 @@ struct EntryLineText {
     std::string line;
     std::string suffix;
     std::string beforeCursor; ///< the part of the line before the cursor
+    /// The characters of the whole text, from 0, at which a token begins: a name is never torn apart.
+    std::vector<std::size_t> tokenStarts;
     std::string whole() const { return prefix + line + suffix; }
 };
 
@@ -26,12 +29,13 @@ EntryLineText entryLineText(const ExpressionWithTokenArray& buffer, const Editin
                             const ExpressionList* target, int whichEquation,
                             const std::string& typedName = {});
 
-/// The text a label of one line shows: where both the whole and the text up to the cursor are too wide, only
-/// the latter, so that the end on screen is where the next key goes. A label of more lines shows the whole.
+/// The text of a label of one line: where both the whole and the text up to the cursor are too wide, only
+/// the latter, so that the end on screen is where the next key goes. A label of more lines has the whole.
 std::string textFittedToLabel(const EntryLineText& text, const LabelRecord& label);
 
-/// What the label draws: that text, wrapped into as many lines as its frame holds, with line feeds between
-/// them. Of more lines it shows the last ones, or those from the cursor's line on.
+/// What the label draws of it, always with the cursor: one line that is too wide is cut at its head, at its
+/// tail or at both; more are wrapped into as many lines as its frame holds, with line feeds between them. Of
+/// more lines it shows the last ones, or those from the cursor's line on.
 std::string linesInLabel(const EntryLineText& text, const LabelRecord& label);
 
 /// The gap between tokens (0 to count) nearest to a point of the label, which must show this text.

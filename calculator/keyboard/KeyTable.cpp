@@ -23,15 +23,15 @@ void run(Controller& controller, CalculatorButton& button) {
 
 const std::array kRows{
     KeyRow{"C", "clr", run<&Controller::clearButtonPressed>, "clear"},
-    KeyRow{"D", "del", run<&Controller::deleteAtCursor>, "delete"},
+    KeyRow{"D", "del", run<&Controller::deleteAtCursor>, "delete", true},
     KeyRow{"F", "func", run<&Controller::functionButtonPressed>, "functions"},
     KeyRow{"N", "cnst", run<&Controller::constantButtonPressed>, "constants"},
     KeyRow{"S", "", run<&Controller::sqrtButtonPressed>, "square root"}, // its image shows the sign
     KeyRow{"T", "trig", run<&Controller::trigButtonPressed>, "trigonometric functions"},
     KeyRow{"U", "units", run<&Controller::unitsButtonPressed>, "unit converter"},
     KeyRow{"e", "e E", nullptr, ""},
-    KeyRow{"←", "←", run<&Controller::leftButtonPressed>, "cursor left"},
-    KeyRow{"→", "→", run<&Controller::rightButtonPressed>, "cursor right"},
+    KeyRow{"←", "←", run<&Controller::leftButtonPressed>, "cursor left", true},
+    KeyRow{"→", "→", run<&Controller::rightButtonPressed>, "cursor right", true},
     KeyRow{"<", "<", run<&Controller::inequalityButtonPressed>, ""},
     KeyRow{">", ">", run<&Controller::inequalityButtonPressed>, ""},
     KeyRow{"≥", "≥", run<&Controller::inequalityButtonPressed>, ""},

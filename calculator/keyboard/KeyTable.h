@@ -13,6 +13,7 @@ struct KeyRow {
     std::string_view title;                  ///< the face; alternatives are separated by a blank
     CalculatorButton::CustomSelector action; ///< null: the key types its title
     std::string_view accessibleName;
+    bool repeats = false; ///< while a finger rests on it
 };
 
 /// The row of a character; a character without a row shows, types and is called by itself.

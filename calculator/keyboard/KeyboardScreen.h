@@ -28,6 +28,9 @@ public:
     virtual void showEditMenu(bool shown) = 0;
     /// Something to tell the user that needs no answer.
     virtual void showNotice(const std::string& text) = 0;
+    /// The same with a button "Undo" beside it, for so many seconds. A press of it is for the controller's
+    /// bringHistoryBack().
+    virtual void offerUndo(const std::string& text, double seconds) = 0;
 };
 
 } // namespace velmora

@@ -12,6 +12,7 @@
 #include "calculator/model/InequalityTokens.h"
 #include "calculator/model/KeyboardGeometry.h"
 #include "calculator/model/Model.h"
+#include "platform/machine/TextMeasure.h"
 #include "platform/text/Utf8.h"
 #include "toolkit/OrvGeometry.h"
 
@@ -27,6 +28,10 @@ constexpr int kNarrowColumns = 5;
 constexpr int kWideRows = 4;
 constexpr int kWideRightColumns = 4;
 constexpr int kMaximumEditingLines = 4;
+constexpr double kSignPerEntrySize = 0.6;
+constexpr double kSmallestSignSize = 11;
+constexpr double kGapBeforeSign = 8;
+constexpr Color kSignColor = Color::white(0.72); // 5.8 to 1 on the entry line's ground
 
 int geometryNow() { return Model::m().keyboardGeometry(); }
 
@@ -160,6 +165,7 @@ void KeyboardView::setUpButton(CalculatorButton& button, const std::string& char
     appearance.fontSize = sizesNow().keyFontSize;
     appearance.accessibleName =
         row.accessibleName.empty() ? accessibleName(title) : std::string(row.accessibleName);
+    appearance.repeats = row.repeats;
     button.setController(&m_controller);
     button.setTitleString(title);
     button.setCustomSelector(row.action);
@@ -209,11 +215,44 @@ void KeyboardView::updateDisplay() {
         entryLineText(*m_displayModel, m_mode, m_target, m_enteringWhichEquation, m_controller.typedName());
     entry.text = textFittedToLabel(text, entry);
     m_currentEntryLines = linesInLabel(text, entry);
+    m_isCursorAtEndOfEntry = m_displayModel->cursorPosition() == m_displayModel->count() ||
+                             (entry.lineCount == 1 && m_currentEntryLines == text.beforeCursor);
+    updateAngleSign();
     if (KeyboardScreen* screen = m_controller.screen()) {
         screen->showEntry();
     }
     updateEqualsButton();
     updateChosenSign();
+}
+
+EntryLineText KeyboardView::entryText() const {
+    return m_displayModel ? entryLineText(*m_displayModel, m_mode, m_target, m_enteringWhichEquation,
+                                          m_controller.typedName())
+                          : EntryLineText();
+}
+
+void KeyboardView::updateAngleSign() {
+    const LabelRecord& entry = m_currentEntryLabel.record();
+    m_angleSign.text = Model::m().angleMode() == 1 ? "DEG" : "RAD";
+    m_angleSign.fontSize = std::max(kSmallestSignSize, entry.fontSize * kSignPerEntrySize);
+    m_angleSign.textColor = kSignColor;
+    const Size size = textSize(m_angleSign);
+    const Rect& place = entry.frame;
+    if (entry.alignment == TextAlignment::Right) { // the line comes from the right
+        m_angleSign.frame = {place.x, place.y, size.width, place.height};
+        m_angleSign.hidden = textSize(entry).width + kGapBeforeSign + size.width > place.width;
+        return;
+    }
+    const double bottom = place.y + place.height;
+    m_angleSign.frame = {place.x + place.width - size.width, bottom - size.height, size.width, size.height};
+    const std::size_t lastLine = m_currentEntryLines.rfind('\n') + 1; // 0 where there is only one
+    const double lineHeight = textLineHeight(entry.fontSize, entry.fontName);
+    const auto lines = static_cast<double>(std::ranges::count(m_currentEntryLines, '\n') + 1);
+    const double endOfText = place.y + (place.height + lines * lineHeight) / 2;
+    const double lineWidth =
+        textWidth(std::string_view(m_currentEntryLines).substr(lastLine), entry.fontSize);
+    m_angleSign.hidden =
+        endOfText > m_angleSign.frame.y && lineWidth + kGapBeforeSign + size.width > place.width;
 }
 
 std::shared_ptr<CalculatorButton> KeyboardView::buttonTyping(const std::string& text) const {

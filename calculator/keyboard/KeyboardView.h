@@ -16,6 +16,7 @@ namespace velmora {
 class DisplayHistoryTableViewController;
 class ExpressionList;
 class ExpressionWithTokenArray;
+struct EntryLineText;
 struct EditingMode;
 class KeyboardViewController;
 
@@ -65,6 +66,13 @@ public:
     const CalculatorLabel& currentEntryLabel() const { return m_currentEntryLabel; }
     /// The entry label's text as it is drawn, with a line feed at the end of each line but the last.
     const std::string& currentEntryLines() const { return m_currentEntryLines; }
+    /// All that the entry line has to show, of which a label too narrow shows a part.
+    EntryLineText entryText() const;
+    /// Whether the cursor stands behind all of the entry label's text, where no mark is written for it.
+    bool isCursorAtEndOfEntry() const { return m_isCursorAtEndOfEntry; }
+    /// The sign of the angle mode, "RAD" or "DEG", in a corner of the entry line; hidden where the line
+    /// reaches it.
+    const LabelRecord& angleSign() const { return m_angleSign; }
     const LabelRecord& backingLabel() const { return m_backingLabel; }
     Color backgroundColor() const { return Color::white(0.2); }
 
@@ -100,6 +108,7 @@ private:
     ButtonLayout newButtonLayout() const;
     ButtonLayout newIPhoneButtonLayout() const;
     ButtonLayout newWideButtonLayout() const;
+    void updateAngleSign();
     void setUpButton(CalculatorButton& button, const std::string& character);
 
     KeyboardViewController& m_controller;
@@ -117,6 +126,8 @@ private:
     std::string m_equalsBackgroundImageName;
     CalculatorLabel m_currentEntryLabel;
     std::string m_currentEntryLines;
+    bool m_isCursorAtEndOfEntry = true;
+    LabelRecord m_angleSign;
     LabelRecord m_backingLabel;
 };
 

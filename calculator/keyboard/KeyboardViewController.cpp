@@ -5,11 +5,14 @@
 #include "calculator/keyboard/KeyboardScreen.h"
 #include "calculator/keyboard/LineStoring.h"
 #include "calculator/keyboard/OpenedScreens.h"
+#include "calculator/keyboard/PastedText.h"
 #include "calculator/model/InequalityTokens.h"
 #include "calculator/model/Model.h"
 #include "engine/tree/Number.h"
+#include "engine/tree/UnreadableToken.h"
 #include "platform/events/ActionScope.h"
 #include "platform/files/KeyedArchive.h"
+#include "platform/machine/Pasteboard.h"
 #include "platform/machine/StaticObjectManager.h"
 #include "platform/screens/NavigationController.h"
 
@@ -116,6 +119,7 @@ void KeyboardViewController::viewDidLoad() {
         if (edited) {
             m_editor.lineChangedElsewhere();
             endPressCounts();
+            keepHalfTypedLine();
         }
         updateDisplay();
     };
@@ -185,6 +189,27 @@ void KeyboardViewController::updateDisplay() {
     }
 }
 
+void KeyboardViewController::lineEdited() {
+    keepHalfTypedLine();
+    updateDisplay();
+}
+
+void KeyboardViewController::keepHalfTypedLine() {
+    if (m_mode.isCalculator() && displayModel()) {
+        Model::m().setHalfTypedLine({displayModel()->tokenArray(), m_editor.place()});
+    }
+}
+
+void KeyboardViewController::takeUpHalfTypedLine() {
+    if (!m_mode.isCalculator() || !displayModel()) {
+        return;
+    }
+    const HalfTypedLine& line = Model::m().halfTypedLine();
+    m_editor.replaceWith(line.tokens, line.place);
+    m_editor.lineChangedElsewhere(); // another run's steps are not kept
+    updateDisplay();
+}
+
 // Presses.
 
 void KeyboardViewController::buttonPressedPre(CalculatorButton& button) {
@@ -198,7 +223,7 @@ void KeyboardViewController::buttonPressedPre(CalculatorButton& button) {
 
 void KeyboardViewController::buttonPressedPost(CalculatorButton& /*button*/) {
     m_editor.endStep();
-    updateDisplay();
+    lineEdited();
 }
 
 void KeyboardViewController::playClick() const {
@@ -252,13 +277,27 @@ void KeyboardViewController::clearButtonPressed() {
     if (++m_nClears == kClearsThatEraseTheHistory) {
         // An editor has no history on screen, so clearing its line often must not erase one.
         if (m_mode.isCalculator()) {
-            Model::m().history().reset();
-            reloadHistory();
+            eraseHistory();
         }
         m_nClears = 0;
     }
     clearDisplayData();
     updateDisplay();
+}
+
+void KeyboardViewController::eraseHistory() {
+    const bool hadRows = m_erased.erase(Model::m().history());
+    reloadHistory();
+    if (hadRows && m_screen) {
+        m_screen->offerUndo("The history has been cleared.", ErasedHistory::kSecondsKept);
+    }
+}
+
+void KeyboardViewController::bringHistoryBack() {
+    if (m_erased.bringBack(Model::m().history())) {
+        reloadHistory();
+        scrollHistoryToEnd();
+    }
 }
 
 void KeyboardViewController::removeButtonPressed() {
@@ -343,7 +382,7 @@ void KeyboardViewController::displayTableViewButtonPressed(const Notification& n
     } else if (entry) {
         numberEntered(entry->resultValue());
     }
-    updateDisplay();
+    lineEdited();
 }
 
 // The tall key.
@@ -380,6 +419,8 @@ void KeyboardViewController::equalsButtonPressed() {
     }
     if (isStored) {
         leaveScreen();
+    } else if (const auto token = firstUnreadableToken(displayModel()->tokenArray())) {
+        m_editor.moveCursorTo(static_cast<int>(*token)); // where to mend it
     }
     scrollHistoryToEnd();
     updateDisplay();
@@ -389,6 +430,7 @@ void KeyboardViewController::appendLineToHistory() {
     appendToHistory(*displayModel());
     m_editor.startNewLine();
     m_recall.forget();
+    keepHalfTypedLine();
     reloadHistory();
     scrollHistoryToEnd();
 }
@@ -409,7 +451,7 @@ void KeyboardViewController::edit(const std::function<std::string(LineEditor&)>&
         const LineStepScope step(m_editor);
         reason = change(m_editor);
     }
-    updateDisplay();
+    lineEdited();
     showNotice(reason);
 }
 
@@ -439,6 +481,41 @@ void KeyboardViewController::redo() {
     edit([](LineEditor& editor) {
         return editor.redo() ? std::string() : "There is nothing to redo in this line.";
     });
+}
+
+bool KeyboardViewController::canPaste() {
+    const Pasteboard& pasteboard = generalPasteboard();
+    return pasteboard.data(kTokenArrayPasteboardType) || !pasteboard.text().value_or("").empty();
+}
+
+void KeyboardViewController::paste() {
+    editBehindNames([](LineEditor&) {}); // letters that cannot be read would stand amid what is pasted
+    if (!typedName().empty()) {
+        return;
+    }
+    edit([](LineEditor& editor) {
+        const auto data = generalPasteboard().data(kTokenArrayPasteboardType);
+        const auto list = data ? readPropertyList(*data) : std::nullopt;
+        PastedText pasted{list ? std::optional(unarchivedTokenArray(*list)) : std::nullopt, {}};
+        if (!pasted.tokens || pasted.tokens->empty()) {
+            pasted = readPastedText(generalPasteboard().text().value_or(""), editor.names(),
+                                    editor.place().cursor == 0);
+        } else if (pasted.tokens->size() > kLongestPaste) {
+            return std::string("What was copied is too long to be pasted into a line.");
+        }
+        if (pasted.tokens) {
+            editor.insertElements(std::move(*pasted.tokens));
+        }
+        return pasted.reason;
+    });
+}
+
+void KeyboardViewController::switchAngleMode() {
+    Model& model = Model::m();
+    model.setAngleMode(model.angleMode() == 1 ? 0 : 1);
+    playClick();
+    updateDisplay();
+    showNotice(model.angleMode() == 1 ? "Angles are in degrees." : "Angles are in radians.");
 }
 
 bool KeyboardViewController::recallLine(int direction) {
@@ -474,7 +551,7 @@ void KeyboardViewController::cursorTappedAt(int gap) {
     if (finishTypedName()) {
         m_editor.moveCursorTo(gap);
     }
-    updateDisplay();
+    lineEdited();
 }
 
 void KeyboardViewController::entryLineTapped(Point point) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calculator/history/ErasedHistory.h"
 #include "calculator/history/HistoryRecall.h"
 #include "calculator/keyboard/EditingMode.h"
 #include "calculator/keyboard/KeyboardView.h"
@@ -97,6 +98,16 @@ public:
     /// Takes the last edit of the line back, or makes it again.
     void undo();
     void redo();
+    /// Puts what the pasteboard holds into the line: tokens of this program, or a text that can be read as a
+    /// whole. Otherwise nothing changes and a notice says why.
+    void paste();
+    static bool canPaste();
+    /// Brings the rows back that the clear key has just erased.
+    void bringHistoryBack();
+    /// The other of radians and degrees, told with a notice.
+    void switchAngleMode();
+    /// The calculator's line as the model has kept it from the run before.
+    void takeUpHalfTypedLine();
     /// Shows an earlier (-1) or later (1) line of the history for editing; past the latest comes what was
     /// typed before. False in the editing modes, which have no history.
     bool recallLine(int direction);
@@ -129,7 +140,10 @@ private:
     void playClick() const;
     void showNotice(const std::string& text) const;
     void appendLineToHistory();
+    void eraseHistory();
     void leaveScreen();
+    void lineEdited();
+    void keepHalfTypedLine();
     void scrollHistoryToEnd();
     void rebuildSubviews(bool always);
 
@@ -139,6 +153,7 @@ private:
     const EditingMode& m_mode;
     LineEditor m_editor{m_mode};
     HistoryRecall m_recall;
+    ErasedHistory m_erased;
     std::shared_ptr<CalculatorButton> m_lastButtonPressed;
     std::shared_ptr<CalculatorButton> m_previousButtonPressed;
     int m_nClears = 0;

@@ -89,8 +89,10 @@ public:
     bool undo();
     bool redo();
 
-private:
+    /// What can be typed by its letters in this line.
     TypeableNames names() const;
+
+private:
     void insertNames(const std::vector<std::string>& texts);
     void replace(int position, int removedCount, TokenArray inserted, int cursor);
     void splice(int position, std::size_t removedCount, const TokenArray& inserted);

@@ -14,7 +14,8 @@ constexpr std::string_view kBlank = " ";
 
 } // namespace
 
-WrappedText::WrappedText(std::string_view text, const LabelRecord& label)
+WrappedText::WrappedText(std::string_view text, const LabelRecord& label,
+                         const std::vector<std::size_t>& wordStarts)
     : m_characters(splitCodePoints(text)), m_lineStarts{0} {
     std::map<std::string_view, double> known; // measuring costs, and a line repeats few characters
     for (const std::string& character : m_characters) {
@@ -26,11 +27,17 @@ WrappedText::WrappedText(std::string_view text, const LabelRecord& label)
     }
     double x = 0;
     std::size_t behindBlank = 0; // where the present line can break best; its start when nowhere
+    std::size_t wordStart = 0;   // where it can break else
+    auto nextWord = wordStarts.begin();
     for (std::size_t i = 0; i < m_characters.size(); ++i) {
         const bool isBlank = m_characters[i] == kBlank;
+        for (; nextWord != wordStarts.end() && *nextWord <= i; ++nextWord) {
+            wordStart = *nextWord;
+        }
         const bool overflows = i > m_lineStarts.back() && !isBlank && x + m_widths[i] > label.frame.width;
         if (label.lineCount != 1 && overflows) {
-            const std::size_t start = behindBlank > m_lineStarts.back() ? behindBlank : i;
+            const std::size_t last = m_lineStarts.back();
+            const std::size_t start = behindBlank > last ? behindBlank : wordStart > last ? wordStart : i;
             m_lineStarts.push_back(start);
             x = 0;
             for (std::size_t moved = start; moved < i; ++moved) {

@@ -10,8 +10,8 @@
 namespace velmora {
 
 /// Text in the lines in which a label draws it. A line breaks behind the last blank that fits, and where
-/// there is none, between any two characters; blanks may stand out at its end. A label of one line breaks
-/// nothing.
+/// there is none, at the last place between two words; a word longer than a line breaks inside. Blanks may
+/// stand out at its end. A label of one line breaks nothing.
 class WrappedText {
 public:
     /// A place between characters: the line, counted from 0, and the distance from its start in points.
@@ -20,7 +20,8 @@ public:
         double x = 0;
     };
 
-    WrappedText(std::string_view text, const LabelRecord& label);
+    /// `wordStarts` are the characters, counted from 0 and ascending, that a line may begin with.
+    WrappedText(std::string_view text, const LabelRecord& label, const std::vector<std::size_t>& wordStarts);
 
     int lineCount() const { return static_cast<int>(m_lineStarts.size()); }
     std::size_t characterCount() const { return m_characters.size(); }

@@ -6,6 +6,9 @@
 
 namespace velmora {
 
+class KeyedArchiver;
+class KeyedUnarchiver;
+
 /// Where the user stands in a line: the cursor, and what is typed there but is no token yet.
 struct LinePlace {
     int cursor = 0;
@@ -17,6 +20,10 @@ struct LinePlace {
 struct HalfTypedLine {
     TokenArray tokens;
     LinePlace place;
+
+    void encodeWithCoder(KeyedArchiver& coder) const;
+    /// A cursor outside the line goes to its end; what is no valid text is left out.
+    static HalfTypedLine decode(const KeyedUnarchiver& coder);
 };
 
 } // namespace velmora

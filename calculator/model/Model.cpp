@@ -73,6 +73,11 @@ void Model::save() { m_file.save(*this); }
 
 void Model::load() { m_file.load(*this); }
 
+void Model::setHalfTypedLine(HalfTypedLine line) {
+    m_halfTypedLine = std::move(line);
+    changed().emit(ModelChange::Typed);
+}
+
 void Model::setAngleMode(int mode) {
     m_environment.setAngleMode(mode == 1 ? AngleMode::Degrees : AngleMode::Radians);
     ModelSettings::setAngleMode(mode); // who hears of the change finds the engine in the new mode

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "calculator/model/HalfTypedLine.h"
 #include "calculator/model/InequalityTokens.h"
 #include "calculator/model/ModelEnvironment.h"
 #include "calculator/model/ModelFile.h"
@@ -53,6 +54,9 @@ public:
     ExpressionList& polarR() { return m_polarR; }           ///< r1(θ) to r4(θ)
     ExpressionWithLevelCurveHeightsList& impliedFunctions() { return m_impliedFunctions; } ///< f1(x, y) …
     NamedExpressionList& constants() { return m_constants; }
+    /// The calculator's line as it is being typed, kept between runs.
+    const HalfTypedLine& halfTypedLine() const { return m_halfTypedLine; }
+    void setHalfTypedLine(HalfTypedLine line);
     /// Four or more entries.
     std::vector<InequalityTokens>& inequalityArray() { return m_inequalityArray; }
 
@@ -118,6 +122,7 @@ private:
     ExpressionWithLevelCurveHeightsList m_impliedFunctions;
     NamedExpressionList m_constants;
     std::vector<InequalityTokens> m_inequalityArray;
+    HalfTypedLine m_halfTypedLine;
 
     std::optional<PropertyArray> m_unitConverterArray;
     PropertyArray m_selectedUnitConverterPickerRows;

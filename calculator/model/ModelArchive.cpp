@@ -41,6 +41,7 @@ constexpr std::array kVariableRanges{std::array{"tStartForParametricGraph", "tEn
 constexpr const char* kImpliedFunctionHeights = "impliedFunctionsLevelCurveHeights";
 constexpr const char* kConstantNames = "ConstantsNameArrays";
 constexpr const char* kInequalities = "InequalityArrayKey";
+constexpr const char* kHalfTypedLine = "HalfTypedLineKey";
 constexpr const char* kDisplayMode = "displayModeEnumKey";
 // Beside the mode in force, which on a phone says nothing of the choice.
 constexpr const char* kDisplayModeOnTablet = "displayModeOnTabletKey";
@@ -173,6 +174,9 @@ PropertyList archivedModel(Model& model) {
     for (std::size_t i = 0; i < bounds.size(); ++i) {
         coder.encode(kBoundKeys[i], bounds[i]);
     }
+    KeyedArchiver line;
+    model.halfTypedLine().encodeWithCoder(line);
+    coder.encode(kHalfTypedLine, line.propertyList());
     coder.encode(kDisplayMode, model.displayMode());
     coder.encode(kDisplayModeOnTablet, model.displayModeOnTablet());
     coder.encode(kSelectedTab, model.selectedTab());
@@ -205,6 +209,8 @@ void loadArchivedModel(Model& model, const PropertyList& archive) {
     }
     loadGraphBounds(model, coder);
     loadInequalities(model, coder);
+    const PropertyList* line = coder.value(kHalfTypedLine);
+    model.setHalfTypedLine(line ? HalfTypedLine::decode(KeyedUnarchiver(*line)) : HalfTypedLine());
     // Intended, though the file holds it: the main keyboard starts out without the letter.
     model.setIOnMainKeyboard(false);
     completeHistory(model.history());

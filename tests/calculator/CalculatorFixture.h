@@ -35,6 +35,10 @@ public:
     void layoutChanged() override { ++layouts; }
     void showEditMenu(bool shown) override { menuShown = shown; }
     void showNotice(const std::string& text) override { notice = text; }
+    void offerUndo(const std::string& text, double seconds) override {
+        notice = text;
+        undoSeconds = seconds;
+    }
 
     int reloads = 0;
     int scrolls = 0;
@@ -44,6 +48,7 @@ public:
     int layouts = 0;
     bool menuShown = false;
     std::string notice;
+    double undoSeconds = 0;
 };
 
 /// A screen that only has a name.

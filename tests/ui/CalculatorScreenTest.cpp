@@ -201,9 +201,19 @@ TEST(EntryLine, takesTheCursorAndOffersToCopy) {
     program.type(utf8("7*8"));
     program.press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), utf8("7*8"));
-    QGuiApplication::clipboard()->setText(utf8("1+1"));
-    program.press(Qt::Key_V, Qt::ControlModifier); // free text is no line; that is told
+    QGuiApplication::clipboard()->setText(utf8("+1,234.5×2"));
+    program.press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(program.line(), utf8("7*8+1234.5*2"));
+    program.press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(program.line(), utf8("7*8"));
+    program.press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    openMenu();
+    program.click(utf8("Paste"));
+    EXPECT_EQ(program.line(), utf8("7*8+1234.5*2+1234.5*2"));
+    EXPECT_TRUE(program.items(QAccessible::AlertMessage).empty());
+    QGuiApplication::clipboard()->setText(utf8("3,5"));
+    program.press(Qt::Key_V, Qt::ControlModifier); // no line; that is told
+    EXPECT_EQ(program.line(), utf8("7*8+1234.5*2+1234.5*2"));
     EXPECT_EQ(program.items(QAccessible::AlertMessage).size(), 1U);
     program.takePicture(utf8("notice"));
 }
@@ -244,7 +254,7 @@ TEST(History, rowsAreReusedAndCopied) {
     program.settle();
     program.takePicture(utf8("copy-from-row"));
     program.click(utf8("Copy"));
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), utf8("0.5"));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), utf8("0.4999999999999999")); // in full
     hold(program, end(0.1));
     program.click(utf8("Copy"));
     EXPECT_EQ(QGuiApplication::clipboard()->text(), utf8("2sin(π/6)^2"));

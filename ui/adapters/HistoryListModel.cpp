@@ -2,6 +2,7 @@
 
 #include "calculator/history/DisplayHistoryTableViewController.h"
 #include "calculator/keyboard/KeyboardViewController.h"
+#include "ui/adapters/QtConversions.h"
 
 #include <algorithm>
 
@@ -24,13 +25,15 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
         return row.input;
     case OutputTextRole:
         return row.output;
+    case OutputColorRole:
+        return row.outputColor;
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> HistoryListModel::roleNames() const {
-    return {{InputTextRole, "inputText"}, {OutputTextRole, "outputText"}};
+    return {{InputTextRole, "inputText"}, {OutputTextRole, "outputText"}, {OutputColorRole, "outputColor"}};
 }
 
 void HistoryListModel::reload() {
@@ -56,7 +59,8 @@ std::vector<HistoryListModel::Row> HistoryListModel::currentRows() const {
         for (int row = table->nTipCells(); row < table->numberOfRows(); ++row) {
             const DisplayHistoryCell cell = table->historyCell(row, width);
             rows.push_back({QString::fromStdString(cell.inputLabel().text),
-                            QString::fromStdString(cell.outputLabel().text)});
+                            QString::fromStdString(cell.outputLabel().text),
+                            toQColor(cell.outputLabel().textColor)});
         }
     }
     return rows;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QColor>
 
 #include <memory>
 #include <vector>
@@ -14,7 +15,7 @@ class HistoryListModel final : public QAbstractListModel {
     Q_OBJECT
 
 public:
-    enum Role { InputTextRole = Qt::UserRole + 1, OutputTextRole };
+    enum Role { InputTextRole = Qt::UserRole + 1, OutputTextRole, OutputColorRole };
 
     explicit HistoryListModel(std::shared_ptr<KeyboardViewController> controller);
 
@@ -29,6 +30,7 @@ private:
     struct Row {
         QString input;
         QString output;
+        QColor outputColor;
         bool operator==(const Row&) const = default;
     };
     std::vector<Row> currentRows() const;

@@ -68,6 +68,8 @@ QVariant KeyListModel::data(const QModelIndex& index, int role) const {
         const char* sign = key.isShown() ? keySign(key.titleString()) : nullptr;
         return sign != nullptr ? m_scene.artwork(sign) : QUrl();
     }
+    case RepeatsRole:
+        return appearance.repeats;
     case ChosenRole:
         return appearance.chosen;
     case SpokenNameRole:
@@ -86,6 +88,7 @@ QHash<int, QByteArray> KeyListModel::roleNames() const {
             {FaceRole, "face"},
             {PressedFaceRole, "pressedFace"},
             {SignRole, "sign"},
+            {RepeatsRole, "repeats"},
             {ChosenRole, "chosen"},
             {SpokenNameRole, "spokenName"}};
 }

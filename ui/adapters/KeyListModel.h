@@ -23,6 +23,7 @@ public:
         FaceRole,        ///< artwork behind the title
         PressedFaceRole, ///< the same while a finger is on it
         SignRole,        ///< artwork in place of a title; empty for most
+        RepeatsRole,     ///< whether it acts again while a finger rests on it
         ChosenRole,      ///< whether it looks as with a finger on it
         SpokenNameRole,
     };

@@ -1,7 +1,9 @@
 #include "ui/adapters/KeyboardScreenAdapter.h"
 
 #include "calculator/history/DisplayHistoryTableViewController.h"
+#include "calculator/keyboard/EntryLineText.h"
 #include "calculator/keyboard/KeyboardViewController.h"
+#include "calculator/model/Model.h"
 #include "platform/events/ActionScope.h"
 #include "ui/adapters/HardwareKeyName.h"
 #include "ui/adapters/QtConversions.h"
@@ -101,9 +103,25 @@ QString KeyboardScreenAdapter::entryLines() const {
     return QString::fromStdString(view().currentEntryLines());
 }
 
-bool KeyboardScreenAdapter::isCursorAtEnd() const {
-    const ExpressionWithTokenArray* line = m_controller->displayModel();
-    return line && line->cursorPosition() == line->count();
+bool KeyboardScreenAdapter::isCursorAtEnd() const { return view().isCursorAtEndOfEntry(); }
+
+LabelAdapter KeyboardScreenAdapter::angleSign() const { return LabelAdapter(view().angleSign()); }
+
+bool KeyboardScreenAdapter::isAngleSignShown() const { return !view().angleSign().hidden; }
+
+QString KeyboardScreenAdapter::angleModeName() const {
+    return QString::fromStdString(Model::m().angleModeAsString());
+}
+
+QString KeyboardScreenAdapter::wholeLine() const {
+    return QString::fromStdString(view().entryText().whole());
+}
+
+bool KeyboardScreenAdapter::isPasteOffered() const { return KeyboardViewController::canPaste(); }
+
+QString KeyboardScreenAdapter::hint() const {
+    const DisplayHistoryTableViewController* table = m_controller->displayTableViewController();
+    return table ? QString::fromStdString(table->hint()) : QString();
 }
 
 bool KeyboardScreenAdapter::isEditMenuShown() const { return view().currentEntryLabel().showsMenu(); }
@@ -156,6 +174,22 @@ void KeyboardScreenAdapter::copy() {
     }
 }
 
+void KeyboardScreenAdapter::paste() {
+    const ActionScope action;
+    view().currentEntryLabel().tapped(); // the menu has done its work
+    m_controller->paste();
+}
+
+void KeyboardScreenAdapter::switchAngleMode() {
+    const ActionScope action;
+    m_controller->switchAngleMode();
+}
+
+void KeyboardScreenAdapter::undoOffer() {
+    const ActionScope action;
+    m_controller->bringHistoryBack();
+}
+
 bool KeyboardScreenAdapter::pressHardwareKey(int key, const QString& text, int modifiers) {
     const ActionScope action;
     if ((modifiers & Qt::ControlModifier) != 0 && pressShortcut(key, modifiers)) {
@@ -167,7 +201,6 @@ bool KeyboardScreenAdapter::pressHardwareKey(int key, const QString& text, int m
 
 bool KeyboardScreenAdapter::pressShortcut(int key, int modifiers) {
     const bool withShift = (modifiers & Qt::ShiftModifier) != 0;
-    CalculatorLabel& label = view().currentEntryLabel();
     switch (key) {
     case Qt::Key_C:
         copy();
@@ -179,10 +212,7 @@ bool KeyboardScreenAdapter::pressShortcut(int key, int modifiers) {
         m_controller->redo();
         return true;
     case Qt::Key_V:
-        // Free text is no line: what is not known to be tokens would be guessed at.
-        if (!label.perform(EditCommand::Paste)) {
-            Q_EMIT notice(tr("Text cannot be pasted into the line. Tap a row of the history to insert it."));
-        }
+        paste();
         return true;
     default:
         return false;
@@ -218,6 +248,10 @@ void KeyboardScreenAdapter::showEditMenu(bool /*shown*/) { Q_EMIT editMenuRefres
 
 void KeyboardScreenAdapter::showNotice(const std::string& text) {
     Q_EMIT notice(QString::fromStdString(text));
+}
+
+void KeyboardScreenAdapter::offerUndo(const std::string& text, double seconds) {
+    Q_EMIT undoOffered(QString::fromStdString(text), seconds);
 }
 
 } // namespace velmora

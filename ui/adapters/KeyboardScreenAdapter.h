@@ -37,6 +37,7 @@ class KeyboardScreenAdapter final : public QObject, public KeyboardScreen {
     // The rows of the history; every one is laid out alike.
     Q_PROPERTY(double rowHeight READ rowHeight NOTIFY historyRefreshed)
     Q_PROPERTY(double rowsHeight READ rowsHeight NOTIFY historyRefreshed) ///< of all rows together
+    Q_PROPERTY(QString hint READ hint NOTIFY historyRefreshed)            ///< while there are no rows
     Q_PROPERTY(bool tipShown READ isTipShown NOTIFY historyRefreshed)
     Q_PROPERTY(velmora::LabelAdapter tip READ tip NOTIFY historyRefreshed)
     Q_PROPERTY(velmora::LabelAdapter rowInput READ rowInput NOTIFY historyRefreshed)
@@ -46,8 +47,13 @@ class KeyboardScreenAdapter final : public QObject, public KeyboardScreen {
     // The entry line and its edit menu.
     Q_PROPERTY(velmora::LabelAdapter entry READ entry NOTIFY entryRefreshed)
     Q_PROPERTY(QString entryLines READ entryLines NOTIFY entryRefreshed) ///< as they are drawn
+    Q_PROPERTY(velmora::LabelAdapter angleSign READ angleSign NOTIFY entryRefreshed)
+    Q_PROPERTY(bool angleSignShown READ isAngleSignShown NOTIFY entryRefreshed)
+    Q_PROPERTY(QString angleModeName READ angleModeName NOTIFY entryRefreshed)
+    Q_PROPERTY(QString wholeLine READ wholeLine NOTIFY entryRefreshed) ///< as a screen reader tells it
     Q_PROPERTY(bool cursorAtEnd READ isCursorAtEnd NOTIFY entryRefreshed)
     Q_PROPERTY(bool editMenuShown READ isEditMenuShown NOTIFY editMenuRefreshed)
+    Q_PROPERTY(bool pasteOffered READ isPasteOffered NOTIFY editMenuRefreshed)
     Q_PROPERTY(QRectF editMenuTarget READ editMenuTarget NOTIFY editMenuRefreshed)
 
 public:
@@ -72,6 +78,12 @@ public:
     QRectF rowRightButton() const;
     LabelAdapter entry() const;
     QString entryLines() const;
+    LabelAdapter angleSign() const;
+    bool isAngleSignShown() const;
+    QString angleModeName() const;
+    QString wholeLine() const;
+    bool isPasteOffered() const;
+    QString hint() const;
     bool isCursorAtEnd() const;
     bool isEditMenuShown() const;
     QRectF editMenuTarget() const;
@@ -86,6 +98,10 @@ public:
     Q_INVOKABLE void openEditMenu();
     Q_INVOKABLE void closeEditMenu();
     Q_INVOKABLE void copy();
+    Q_INVOKABLE void paste();
+    Q_INVOKABLE void switchAngleMode();
+    /// The answer to undoOffered.
+    Q_INVOKABLE void undoOffer();
     /// A key of a hardware keyboard as a key event tells it. False when it means nothing here.
     Q_INVOKABLE bool pressHardwareKey(int key, const QString& text, int modifiers);
 
@@ -98,6 +114,7 @@ public:
     void layoutChanged() override;
     void showEditMenu(bool shown) override;
     void showNotice(const std::string& text) override;
+    void offerUndo(const std::string& text, double seconds) override;
 
 Q_SIGNALS:
     void layoutRefreshed();
@@ -107,6 +124,8 @@ Q_SIGNALS:
     void scrolledToEnd(bool animated);
     /// Something to tell the user that needs no answer.
     void notice(const QString& text);
+    /// The same with a way back for so many seconds.
+    void undoOffered(const QString& text, double seconds);
 
 private:
     KeyboardView& view() const;

@@ -1,7 +1,8 @@
 import QtQuick
 import Velmora
 
-// A key. It is pressed when the finger leaves it within its bounds, so sliding off cancels.
+// A key. It is pressed when the finger leaves it within its bounds, so sliding off cancels. One that repeats
+// is pressed again and again while a finger rests on it.
 Item {
     id: root
 
@@ -14,6 +15,7 @@ Item {
     required property url face
     required property url pressedFace
     required property url sign
+    required property bool repeats
     required property bool chosen
     required property string spokenName
     readonly property bool down: chosen || tap.pressed
@@ -65,9 +67,21 @@ Item {
         border { width: 2; color: "white" }
         radius: 6
     }
+    Timer {
+        id: repeating
+        property bool hasPressed: false
+        interval: hasPressed ? 90 : 450
+        repeat: true
+        running: root.repeats && tap.pressed
+        onRunningChanged: if (running) hasPressed = false
+        onTriggered: {
+            hasPressed = true
+            root.pressed()
+        }
+    }
     TapArea {
         id: tap
         anchors.fill: parent
-        onTapped: root.pressed()
+        onTapped: if (!repeating.hasPressed) root.pressed()
     }
 }

@@ -1,7 +1,8 @@
 import QtQuick
 import Velmora
 
-// The entry line. A tap sets the cursor, a double tap or a long press opens the edit menu.
+// The entry line. A tap sets the cursor, a double tap or a long press opens the edit menu. The sign of the
+// angle mode stands in a corner of it, to be tapped.
 Item {
     id: root
 
@@ -16,7 +17,7 @@ Item {
 
     Accessible.role: Accessible.EditableText
     Accessible.name: qsTr("Line")
-    Accessible.description: label.text
+    Accessible.description: screen.wholeLine
     Accessible.readOnly: false
     Accessible.focusable: true
 
@@ -47,6 +48,22 @@ Item {
         horizontalAlignment: root.label.alignment
         verticalAlignment: Text.AlignVCenter
         elide: root.label.elide
+        Accessible.ignored: true
+    }
+    Text {
+        id: angleSign
+
+        readonly property var sign: root.screen.angleSign
+
+        x: sign.frame.x - root.x
+        y: sign.frame.y - root.y
+        width: sign.frame.width
+        height: sign.frame.height
+        visible: root.screen.angleSignShown
+        text: sign.text
+        font: sign.font
+        color: sign.textColor
+        verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }
     Rectangle {
@@ -91,5 +108,19 @@ Item {
             }
         }
         onHeld: root.screen.openEditMenu()
+    }
+    TapArea {
+        // Larger than its letters, for a finger; the keys below keep their place.
+        visible: root.screen.angleSignShown
+        x: angleSign.x - 10
+        y: angleSign.y - 10
+        width: angleSign.width + 20
+        height: angleSign.height + 10
+        onTapped: root.screen.switchAngleMode()
+
+        Accessible.role: Accessible.Button
+        Accessible.name: qsTr("Angle mode")
+        Accessible.description: root.screen.angleModeName
+        Accessible.onPressAction: root.screen.switchAngleMode()
     }
 }

@@ -16,6 +16,13 @@ Rectangle {
     property bool heldLeft: false
     property rect heldPlace
 
+    // In points from the end, so that a history that was never moved stands at its newest row.
+    function scrollPosition() { return list.fromEnd() }
+    function scrollTo(position) {
+        list.distance = position
+        list.restore()
+    }
+
     x: screen.historyFrame.x
     y: screen.historyFrame.y
     width: screen.historyFrame.width
@@ -29,7 +36,7 @@ Rectangle {
             root.heldRow = -1 // rows may have moved
         }
         function onScrolledToEnd(animated) {
-            list.followsEnd = true
+            list.distance = 0
             list.goToEnd(animated)
         }
     }
@@ -37,9 +44,18 @@ Rectangle {
     ListView {
         id: list
 
-        // Whether the end stays in view when the place for the history changes.
-        property bool followsEnd: true
+        // From the end of the rows to the end of what is in view; it stays when rows or the place change.
+        property real distance: 0
 
+        function fromEnd() { return Math.max(0, originY + contentHeight - height - contentY) }
+        function restore() {
+            goToEnd(false)
+            const target = Math.max(originY, contentY - distance)
+            const step = Math.max(height / 2, 40) // less than a screen, so that every row is made
+            while (contentY > target) {
+                contentY = Math.max(contentY - step, target)
+            }
+        }
         function goToEnd(animated) {
             scrolling.stop()
             const from = contentY
@@ -56,8 +72,9 @@ Rectangle {
         height: Math.min(parent.height, root.screen.rowsHeight)
         model: root.screen.history
         header: root.screen.tipShown ? tipRow : null
-        onHeightChanged: if (followsEnd) goToEnd(false)
-        onMovementEnded: followsEnd = atYEnd
+        onHeightChanged: restore()
+        onContentHeightChanged: if (!moving) restore()
+        onMovementEnded: distance = fromEnd()
 
         Accessible.role: Accessible.List
         Accessible.name: qsTr("History")
@@ -80,6 +97,26 @@ Rectangle {
             property: "contentY"
             duration: 200
             easing.type: Easing.OutCubic
+        }
+    }
+    Column {
+        // What to try, where nothing has been computed yet.
+        anchors.centerIn: parent
+        spacing: 6
+        visible: root.screen.hint !== ""
+        Repeater {
+            model: root.screen.hint === "" ? [] : root.screen.hint.split("\n")
+            delegate: Text {
+                required property string modelData
+                width: root.width - 40
+                text: modelData
+                color: Theme.secondaryText
+                font.pixelSize: 15
+                wrapMode: Text.WordWrap
+                horizontalAlignment: Text.AlignHCenter
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
         }
     }
     Component {

@@ -1,14 +1,17 @@
 import QtQuick
 import Velmora
 
-// A menu that offers to copy what lies under a place of the screen. A tap beside it closes it.
+// A menu that offers to copy what lies under a place of the screen, and to paste where that is possible. A tap
+// beside it closes it.
 Item {
     id: root
 
     required property rect target
     required property url panelArtwork
+    property bool pasteOffered: false
 
     signal copyChosen()
+    signal pasteChosen()
     signal closed()
 
     TapArea {
@@ -25,28 +28,21 @@ Item {
 
         x: Math.max(8, Math.min(root.width - width - 8, root.target.x + (root.target.width - width) / 2))
         y: above >= 4 ? above : root.target.y + root.target.height + 10
-        width: copyText.implicitWidth + 44
+        width: commands.width
         height: 44
         source: root.panelArtwork
-        opacity: press.pressed ? 0.75 : 1
 
-        Accessible.ignored: false
-        Accessible.role: Accessible.MenuItem
-        Accessible.name: copyText.text
-        Accessible.onPressAction: root.copyChosen()
-
-        Text {
-            id: copyText
-            anchors.centerIn: parent
-            text: qsTr("Copy")
-            color: "white"
-            font.pixelSize: 16
-            Accessible.ignored: true
-        }
-        TapArea {
-            id: press
-            anchors.fill: parent
-            onTapped: root.copyChosen()
+        Row {
+            id: commands
+            EditMenuItem {
+                text: qsTr("Copy")
+                onChosen: root.copyChosen()
+            }
+            EditMenuItem {
+                visible: root.pasteOffered
+                text: qsTr("Paste")
+                onChosen: root.pasteChosen()
+            }
         }
     }
 }

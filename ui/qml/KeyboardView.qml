@@ -8,6 +8,8 @@ FocusScope {
     required property KeyboardScreenAdapter screen
     readonly property size viewSize: Qt.size(width, height)
 
+    readonly property Item scrollingPart: history
+
     focus: true
     onViewSizeChanged: screen.setViewSize(viewSize)
     Keys.onPressed: event => {
@@ -17,6 +19,7 @@ FocusScope {
     Connections {
         target: root.screen
         function onNotice(text) { notice.show(text) }
+        function onUndoOffered(text, seconds) { notice.show(text, qsTr("Undo"), seconds) }
     }
 
     Rectangle {
@@ -56,7 +59,9 @@ FocusScope {
         sourceComponent: EditMenu {
             target: root.screen.editMenuTarget
             panelArtwork: root.screen.panelArtwork
+            pasteOffered: root.screen.pasteOffered
             onCopyChosen: root.screen.copy()
+            onPasteChosen: root.screen.paste()
             onClosed: root.screen.closeEditMenu()
         }
     }
@@ -80,5 +85,6 @@ FocusScope {
         area: root.screen.historyFrame.height > 0
             ? root.screen.historyFrame
             : Qt.rect(0, entryLine.y + entryLine.height, root.width, root.height - entryLine.y - entryLine.height)
+        onActionChosen: root.screen.undoOffer()
     }
 }

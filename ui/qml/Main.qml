@@ -47,6 +47,20 @@ Rectangle {
             anchors.fill: parent
             focus: !root.alerts.shown
             enabled: !root.alerts.shown
+            // What the screen on display has no use for.
+            Keys.onPressed: event => {
+                const withControl = event.modifiers === Qt.ControlModifier
+                const leaves = event.key === Qt.Key_Escape || event.key === Qt.Key_Backspace
+                    ? event.modifiers === Qt.NoModifier
+                    : event.key === Qt.Key_Left && event.modifiers === Qt.AltModifier
+                if (withControl && event.key >= Qt.Key_1 && event.key <= Qt.Key_9) {
+                    root.tabs.tap(event.key - Qt.Key_1)
+                    event.accepted = true
+                } else if (leaves && root.navigation.backTitle !== "") {
+                    root.navigation.goBack()
+                    event.accepted = true
+                }
+            }
 
             NavigationBar {
                 id: navigationBar

@@ -1,5 +1,7 @@
 #include "tests/calculator/CalculatorFixture.h"
 
+#include "platform/machine/Timer.h"
+
 namespace velmora::test {
 namespace {
 
@@ -67,6 +69,53 @@ TEST_F(HistoryTest, keepsFiftyResultsAsTheyWereShown) {
     }
     EXPECT_EQ(history().size(), 50U);
     EXPECT_EQ(history().front(), "y1(4) = 8"); // the 9 before it is gone
+}
+
+TEST_F(HistoryTest, aClearedHistoryComesBackForSixSeconds) {
+    ManualTimerService timers;
+    const TimerServiceScope timerScope(timers);
+    open();
+    press("clr clr clr");
+    EXPECT_EQ(screen.undoSeconds, 0); // there was nothing to lose
+    press("9 / 0 = 6 * 7 = clr clr clr");
+    EXPECT_EQ(screen.undoSeconds, 6);
+    EXPECT_EQ(history(), Texts{});
+    press("1 =");
+    timers.advance(5.9);
+    keyboard->bringHistoryBack();
+    EXPECT_EQ(history(), (Texts{"9/0 = Undefined", "6*7 = 42", "1 = 1"}));
+    keyboard->bringHistoryBack();
+    EXPECT_EQ(history().size(), 3U);
+    press("clr clr clr");
+    timers.advance(6.1);
+    keyboard->bringHistoryBack();
+    EXPECT_EQ(history(), Texts{});
+}
+
+TEST_F(HistoryTest, errorsAndAnEmptyHistoryShowThemselves) {
+    open();
+    const DisplayHistoryTableViewController& table = *keyboard->displayTableViewController();
+    EXPECT_NE(table.hint(), "");
+    type("1 Enter 2 + Enter 0 / 0 Enter");
+    EXPECT_EQ(table.hint(), "");
+    const auto colour = [&](int row) {
+        return table.historyCell(row + table.nTipCells(), 320).outputLabel().textColor;
+    };
+    EXPECT_EQ(colour(0), Color::white(1));
+    EXPECT_NE(colour(1), colour(0));
+    EXPECT_EQ(colour(2), colour(1));
+}
+
+TEST_F(HistoryTest, theLineBeingTypedOutlivesTheScreen) {
+    open();
+    type("1 2 + 3 Left Left s i");
+    keyboard = std::make_shared<KeyboardViewController>();
+    EXPECT_EQ(keyboard->displayModel()->count(), 0);
+    open();
+    keyboard->takeUpHalfTypedLine();
+    EXPECT_EQ(entry(), "12si_+3");
+    type("n ( Escape");
+    EXPECT_TRUE(Model::m().halfTypedLine().tokens.empty());
 }
 
 TEST_F(HistoryTest, rowLayout) {

@@ -211,6 +211,47 @@ TEST_F(HardwareKeysTest, lettersStandAtTheCursorAndAreEditedLikeKeys) {
     EXPECT_EQ(entry(), "e4");
 }
 
+TEST_F(HardwareKeysTest, aLongLineShowsItsCursor) {
+    open(); // 300 points hold 29 characters of 10.2
+    keyboard->displayModel()->setTokenArray(TokenArray(60, Token("7")));
+    const KeyboardView& view = keyboard->keyboardView();
+    const std::pair<const char*, std::string> cases[] = {
+        {"End", std::string(60, '7')},
+        {"Home", "_" + std::string(27, '7') + "…"},
+        {"Right Right", "77_" + std::string(25, '7') + "…"},
+        {"End Left", std::string(59, '7')}}; // cut at the cursor and at its head
+    for (const auto& [keys, line] : cases) {
+        type(keys);
+        EXPECT_EQ(view.currentEntryLines(), line) << keys;
+        EXPECT_EQ(view.isCursorAtEndOfEntry(), line.find('_') == std::string::npos);
+    }
+    type("Home");
+    keyboard->entryLineTapped({310 - 29 * 10.2 + 3 * 10.2, 215});
+    EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 2);
+}
+
+TEST_F(HardwareKeysTest, theSignOfTheAngleModeGivesWayToTheLine) {
+    open();
+    const LabelRecord& sign = keyboard->keyboardView().angleSign();
+    EXPECT_EQ(sign.text, "RAD");
+    keyboard->switchAngleMode();
+    EXPECT_EQ(sign.text, "DEG");
+    EXPECT_EQ(screen.notice, "Angles are in degrees.");
+    type("s i n ( 3 0 Enter Enter");
+    EXPECT_EQ(history(), Texts{"sin(30) = 0.5"});
+    // 300 points less 8 and three characters of 6.6 hold 26 characters.
+    for (int count = 1; count <= 30; ++count) {
+        type("1");
+        EXPECT_EQ(sign.hidden, count > 26) << count;
+    }
+    open(1, &Model::m().equations());
+    const LabelRecord& inEditor = keyboard->keyboardView().angleSign();
+    EXPECT_FALSE(inEditor.hidden);
+    keyboard->displayModel()->setTokenArray(TokenArray(98, Token("1"))); // four full lines
+    keyboard->updateDisplay();
+    EXPECT_TRUE(inEditor.hidden);
+}
+
 TEST_F(HardwareKeysTest, tapMovesTheCursorToTheNearestGap) {
     // Characters are 10.2 points wide; the line ends at x = 310.
     open();
@@ -250,6 +291,12 @@ TEST_F(HardwareKeysTest, tapMovesTheCursorToTheNearestGap) {
     EXPECT_EQ(keyboard->keyboardView().currentEntryLines(), std::string(25, 'y') + "= \n0");
     keyboard->entryLineTapped({200, 60});
     EXPECT_EQ(keyboard->displayModel()->cursorPosition(), 25);
+
+    // Names are not torn apart.
+    open(1, &Model::m().equations());
+    keyboard->displayModel()->setTokenArray(tokens("1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 sqrt( x"));
+    keyboard->updateDisplay();
+    EXPECT_EQ(keyboard->keyboardView().currentEntryLines(), "y1(x)=12345678901234567\nsqrt(x");
 
     // The line of inequalities is as high as one line of text, which is that of the cursor.
     open(4);

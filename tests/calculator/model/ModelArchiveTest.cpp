@@ -204,6 +204,36 @@ TEST_F(ModelArchive, valuesRowsWithoutOneOnceAllIsRead) {
     EXPECT_EQ(model.constants().fullFunctionNameWithIndex(1), "mass");
 }
 
+TEST_F(ModelArchive, takesNoNameThatCouldNotHaveBeenTyped) {
+    // "a(" would open a parenthesis in every line that holds the constant.
+    const char* const names[] = {"a(", "k1", "good", "pi", "sin", "2a", "good", "Theta", "a\tb", "y1"};
+    Model& model = loaded({{"ConstantsNameArrays", PropertyArray(std::begin(names), std::end(names))}});
+    for (int slot = 0; slot < 10; ++slot) {
+        EXPECT_EQ(model.constants().fullFunctionNameWithIndex(slot),
+                  slot == 2 ? "good" : "k" + std::to_string(slot + 1));
+    }
+}
+
+TEST_F(ModelArchive, keepsTheLineBeingTyped) {
+    Model::m().setHalfTypedLine({tokens("2 sin( x"), {1, "lo"}});
+    const PropertyDictionary saved = *archivedModel(Model::m()).asDictionary();
+    const struct {
+        PropertyList cursor;
+        int expected;
+    } cases[] = {{1, 1}, {-1, 3}, {4, 3}, {"end", 3}, {std::int64_t{1} << 40, 3}};
+    for (const auto& c : cases) {
+        PropertyDictionary archive = saved;
+        PropertyDictionary line = *archive["HalfTypedLineKey"].asDictionary();
+        line["CursorPositionKey"] = c.cursor;
+        archive["HalfTypedLineKey"] = line;
+        loadArchivedModel(Model::m(), archive);
+        EXPECT_EQ(toDisplayString(Model::m().halfTypedLine().tokens), "2sin(x");
+        EXPECT_EQ(Model::m().halfTypedLine().place, (LinePlace{c.expected, "lo"}));
+    }
+    loadArchivedModel(Model::m(), PropertyDictionary{{"HalfTypedLineKey", "no line"}});
+    EXPECT_TRUE(Model::m().halfTypedLine().tokens.empty());
+}
+
 TEST_F(ModelArchive, setsAsideAFileItCannotRead) {
     for (const char* bytes : {"no archive", "bplist00", "<plist><array/></plist>", "a folder"}) {
         const LogRecorder log;
