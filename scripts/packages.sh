@@ -39,6 +39,18 @@ packages_vnc=(
     xvfb
 )
 
+# Making the Debian package, with its icon in all sizes.
+packages_package=(
+    dpkg-dev
+    file
+    librsvg2-bin
+)
+
+# Trying the package in a system of its own.
+packages_chroot=(
+    debootstrap
+)
+
 # Tests and the checks of the sources.
 packages_test=(
     clang-format

@@ -32,7 +32,7 @@ public:
     /// A text below the row that explains it, or empty.
     const std::string& explanation() const { return m_explanation; }
     void setExplanation(std::string text) { m_explanation = std::move(text); }
-    /// What an empty text field shows.
+    /// What an empty field shows in place of a value, or empty.
     const std::string& placeholder() const { return m_placeholder; }
     void setPlaceholder(std::string text) { m_placeholder = std::move(text); }
     /// Whether the object that the row edits exists.

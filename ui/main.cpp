@@ -6,6 +6,7 @@
 #include "ui/machine/TerminationSignals.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 
 #include <cstdio>
 #include <exception>
@@ -17,7 +18,10 @@ int runVelmora(int argc, char** argv) {
     velmora::chooseRenderer();
     QGuiApplication::setApplicationName(QStringLiteral("velmora"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Velmora"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("velmora"));
     QGuiApplication qtApplication(argc, argv);
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icon/velmora.svg")));
 
     velmora::Application application;
     const velmora::TerminationSignals termination;

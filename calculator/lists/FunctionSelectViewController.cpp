@@ -4,6 +4,7 @@
 #include "calculator/keyboard/KeyboardViewController.h"
 #include "calculator/lists/ConstantEditViewController.h"
 #include "calculator/lists/FunctionListTrimming.h"
+#include "calculator/lists/ListedConstant.h"
 #include "calculator/lists/ReferenceSearch.h"
 #include "calculator/model/Model.h"
 #include "engine/lines/Token.h"
@@ -51,6 +52,7 @@ FunctionListRow rowOfText(const std::string& content, const std::string& hint) {
     return {.kind = Insert,
             .title = listed(content),
             .detail = hint + (uncertain ? " [final digit is uncertain]" : ""),
+            .value = listedConstantValue(content, hint),
             .content = content};
 }
 
@@ -106,6 +108,7 @@ void FunctionSelectViewController::loadFunctionList() {
     const std::string* marker = m_functionList.empty() ? nullptr : m_functionList.front().asText();
     if (m_functionListName == kEquationsListName || (marker && *marker == kEquationsListName)) {
         m_functionList = equationsFunctionList(m_functionList);
+        m_showsEquations = true;
         return;
     }
     m_showsUserConstants = marker && marker->starts_with('@');
@@ -122,8 +125,11 @@ void FunctionSelectViewController::makeRows() {
     }
     for (std::size_t index = kFirstFunctionListEntry; index < m_functionList.size(); ++index) {
         FunctionListRow row = functionListRow(m_functionList[index]);
+        const int slot = static_cast<int>(m_rows.size());
         if (m_showsUserConstants) {
-            row.value = Model::m().constants().expressionString(static_cast<int>(m_rows.size()));
+            row.value = Model::m().constants().expressionString(slot);
+        } else if (m_showsEquations) {
+            row.value = Model::m().equations().expressionString(slot);
         }
         m_rows.push_back(std::move(row));
     }

@@ -30,7 +30,7 @@ struct FunctionListRow {
     std::string title{};
     std::string detail{};
     TextAlignment detailAlignment = TextAlignment::Left;
-    std::string value{}; ///< of a user's constant, as it was typed
+    std::string value{}; ///< of a constant; of an equation its formula
     std::string content{};
     double height = 44;
 
@@ -102,6 +102,7 @@ private:
     FunctionList m_functionList;
     std::vector<FunctionListRow> m_rows;
     bool m_showsUserConstants = false;
+    bool m_showsEquations = false;
     bool m_isEditing = false;
     Signal<> m_rowsChanged;
 };

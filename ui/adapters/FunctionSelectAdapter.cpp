@@ -2,11 +2,23 @@
 
 #include "calculator/lists/FunctionSelectViewController.h"
 #include "platform/events/ActionScope.h"
+#include "platform/machine/TextMeasure.h"
 #include "ui/adapters/SceneAdapter.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <cmath>
 
 namespace velmora {
 
 namespace {
+
+constexpr int kTitleSize = 16; // points, as the cell draws them
+constexpr int kValueSize = 11;
+constexpr int kLargestDetailSize = 13;
 
 QString kindName(FunctionListRowKind kind) {
     switch (kind) {
@@ -129,6 +141,37 @@ QHash<int, QByteArray> FunctionSelectAdapter::roleNames() const {
             {RowHeightRole, "rowHeight"},
             {SelectableRole, "selectable"},
             {SpokenRole, "spoken"}};
+}
+
+double FunctionSelectAdapter::titleColumn(double rowWidth) const {
+    constexpr double narrowest = 0.22;
+    constexpr double widest = 0.42;
+    double width = 0;
+    for (const FunctionListRow& row : m_controller->rows()) {
+        if (!row.detail.empty()) {
+            width = std::max({width, textWidth(row.title, kTitleSize), textWidth(row.value, kValueSize)});
+        }
+    }
+    return std::clamp(std::ceil(width) + 2, narrowest * rowWidth, widest * rowWidth);
+}
+
+int FunctionSelectAdapter::detailSize(double detailWidth) const {
+    constexpr int smallest = 9;
+    constexpr int edges = 2; // of a row
+    QFont font = QGuiApplication::font();
+    for (int size = kLargestDetailSize; size > smallest; --size) {
+        font.setPixelSize(size);
+        const QFontMetricsF metrics(font);
+        const bool fits = std::ranges::all_of(m_controller->rows(), [&](const FunctionListRow& row) {
+            const QRectF place(0, 0, detailWidth, row.height - edges);
+            const QString text = QString::fromStdString(row.detail);
+            return place.contains(metrics.boundingRect(place, Qt::TextWordWrap, text));
+        });
+        if (fits) {
+            return size;
+        }
+    }
+    return smallest;
 }
 
 void FunctionSelectAdapter::select(int row) {

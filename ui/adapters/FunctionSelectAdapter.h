@@ -55,6 +55,11 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     Q_INVOKABLE void select(int row);
+    /// How wide the titles of rows with a hint are, in points: one column for the whole list, so that the
+    /// hints stand below each other.
+    Q_INVOKABLE double titleColumn(double rowWidth) const;
+    /// The one size of all the hints: the largest in which each of them fits into its row.
+    Q_INVOKABLE int detailSize(double detailWidth) const;
 
 Q_SIGNALS:
     void rowsRefreshed();

@@ -1,5 +1,7 @@
 #include "ui/painting/DevicePixelItem.h"
 
+#include "ui/painting/PixelSnappedNode.h"
+
 #include <QPainter>
 #include <QQuickWindow>
 #include <QSGImageNode>
@@ -9,6 +11,40 @@
 #include <memory>
 
 namespace velmora {
+
+namespace {
+
+/// The picture on whole pixels of the device: one of its own on each, although the item may fall between two.
+class PictureNode final : public PixelSnappedNode {
+public:
+    explicit PictureNode(QSGImageNode* picture) : m_picture(picture) {
+        picture->setFlag(OwnedByParent);
+        picture->setOwnsTexture(true);
+        picture->setFiltering(QSGTexture::Nearest);
+        appendChildNode(picture);
+    }
+    void setTexture(QSGTexture* texture) {
+        m_picture->setTexture(texture);
+        m_size = texture->textureSize();
+    }
+
+protected:
+    void placeOn(const Pixels& pixels) override {
+        const QPointF shift(std::round(pixels.origin.x()) - pixels.origin.x(),
+                            std::round(pixels.origin.y()) - pixels.origin.y());
+        const QRectF place(shift.x() / pixels.perUnitAcross, shift.y() / pixels.perUnitDown,
+                           m_size.width() / pixels.perUnitAcross, m_size.height() / pixels.perUnitDown);
+        if (m_picture->rect() != place) {
+            m_picture->setRect(place);
+        }
+    }
+
+private:
+    QSGImageNode* m_picture; ///< owned by this node
+    QSizeF m_size;
+};
+
+} // namespace
 
 DevicePixelItem::DevicePixelItem(QQuickItem* parent, Ground ground) : QQuickItem(parent), m_ground(ground) {
     setFlag(ItemHasContents);
@@ -47,19 +83,14 @@ QSGNode* DevicePixelItem::updatePaintNode(QSGNode* former, UpdatePaintNodeData* 
         delete former;
         return nullptr;
     }
-    auto* node = static_cast<QSGImageNode*>(former);
+    auto* node = static_cast<PictureNode*>(former);
     if (node == nullptr) {
-        node = window()->createImageNode();
-        node->setOwnsTexture(true);
-        node->setFiltering(QSGTexture::Nearest);
+        node = new PictureNode(window()->createImageNode());
     }
+    node->setDevicePixelRatio(window()->effectiveDevicePixelRatio());
     node->setTexture(window()->createTextureFromImage(m_picture, m_ground == Ground::Opaque
                                                                      ? QQuickWindow::TextureIsOpaque
                                                                      : QQuickWindow::TextureHasAlphaChannel));
-    // One pixel of the picture on one of the device, although the item's place may fall between two.
-    const QPointF pixel = mapToScene(QPointF()) * window()->effectiveDevicePixelRatio();
-    const QPointF shift(std::round(pixel.x()) - pixel.x(), std::round(pixel.y()) - pixel.y());
-    node->setRect(QRectF(shift / m_pixelsPerPoint, QSizeF(m_picture.size()) / m_pixelsPerPoint));
     return node;
 }
 
@@ -72,6 +103,15 @@ void DevicePixelItem::itemChange(ItemChange change, const ItemChangeData& data) 
     QQuickItem::itemChange(change, data);
     if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) {
         repaint();
+    }
+    if (change == ItemSceneChange) {
+        // The scene is scaled with the window, which does not change the item itself.
+        disconnect(m_width);
+        disconnect(m_height);
+        if (data.window != nullptr) {
+            m_width = connect(data.window, &QWindow::widthChanged, this, &DevicePixelItem::repaint);
+            m_height = connect(data.window, &QWindow::heightChanged, this, &DevicePixelItem::repaint);
+        }
     }
 }
 

@@ -38,6 +38,8 @@ private:
     Ground m_ground;
     QImage m_picture;
     double m_pixelsPerPoint = 1;
+    QMetaObject::Connection m_width;
+    QMetaObject::Connection m_height;
 };
 
 } // namespace velmora

@@ -70,9 +70,9 @@ FocusScope {
                     Keys.onLeftPressed: root.focusOn(index - 1)
                     Keys.onDownPressed: root.focusOn(index + 1)
                     Keys.onRightPressed: root.focusOn(index + 1)
-                    Rectangle {
+                    Hairline {
                         width: parent.width
-                        height: 0.5
+                        atTop: true
                         color: "#5a616b"
                     }
                 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // A row of the history: the line at the left above its result at the right. A tap on one end inserts it;
 // holding it offers to copy it. What does not fit is pushed sideways from anywhere on the row.
@@ -45,9 +46,8 @@ Item {
         onTapped: root.tapped(false)
         onHeld: root.held(false, rightEnd)
     }
-    Rectangle {
+    Hairline {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: 10 }
-        height: 0.5
         color: "#34383e"
     }
     DragHandler {

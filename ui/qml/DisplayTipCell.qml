@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // The row that tells where the settings are; its text shrinks to fit.
 Item {
@@ -25,9 +26,8 @@ Item {
         Accessible.role: Accessible.StaticText
         Accessible.name: text
     }
-    Rectangle {
+    Hairline {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: 10 }
-        height: 0.5
         color: "#34383e"
     }
 }

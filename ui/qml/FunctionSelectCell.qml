@@ -15,7 +15,8 @@ TableRow {
     required property string spoken
     required selectable
     required property FunctionSelectAdapter screen
-    // Rows of functions keep their titles in one column, so that the meanings stand below each other.
+    required property real titleColumn // points, one for all rows of the list
+    required property int detailSize
     readonly property bool hasDetail: detail !== ""
     readonly property bool opens: kind === "link" || kind === "list" || screen.editing
 
@@ -24,62 +25,60 @@ TableRow {
     focus: ListView.isCurrentItem
     color: kind === "heading" ? Theme.background : selectable && pressed ? Theme.pressed : Theme.surface
 
-    Text {
+    Column {
         id: title
         anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-        width: root.kind === "angles" ? 80
-             : root.hasDetail ? Math.max(0.27 * root.width, Math.min(implicitWidth, 0.42 * root.width))
-             : root.width - 3 * Theme.margin
-        text: root.title
-        color: root.kind === "heading" ? Theme.secondaryText : Theme.text
-        font { pixelSize: root.kind === "heading" ? Theme.detailSize : Theme.textSize; bold: root.kind === "heading" }
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 8
-        textFormat: Text.PlainText
-        Accessible.ignored: true
+        width: root.kind === "angles" ? 80 : root.hasDetail ? root.titleColumn : root.width - 3 * Theme.margin
+        Text {
+            width: parent.width
+            text: root.title
+            color: root.kind === "heading" ? Theme.secondaryText : Theme.text
+            font { pixelSize: root.kind === "heading" ? Theme.detailSize : Theme.textSize; bold: root.kind === "heading" }
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
+            textFormat: Text.PlainText
+            Accessible.ignored: true
+        }
+        Text {
+            visible: root.value !== ""
+            width: parent.width
+            text: root.value
+            color: Theme.accent
+            font.pixelSize: 11
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 9
+            elide: Text.ElideRight
+            textFormat: Text.PlainText
+            Accessible.ignored: true
+        }
     }
     Text {
         anchors {
             left: title.right
-            right: ending.left
+            right: parent.right
             leftMargin: 10
-            rightMargin: 8
+            rightMargin: Theme.margin + 18
             verticalCenter: parent.verticalCenter
         }
         height: parent.height
         visible: root.hasDetail
         text: root.detail
         color: Theme.secondaryText
-        font.pixelSize: Theme.detailSize
-        fontSizeMode: Text.Fit
-        minimumPixelSize: 9
+        font.pixelSize: root.detailSize
         wrapMode: Text.WordWrap
+        elide: Text.ElideRight
         textFormat: Text.PlainText
         horizontalAlignment: root.detailAtRight ? Text.AlignRight : Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }
-    Row {
-        id: ending
+    Text {
         anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-        spacing: 8
-        Text {
-            visible: root.value !== ""
-            width: Math.min(implicitWidth, 0.25 * root.width)
-            text: root.value
-            color: Theme.accent
-            font.pixelSize: Theme.detailSize
-            elide: Text.ElideRight
-            textFormat: Text.PlainText
-            Accessible.ignored: true
-        }
-        Text {
-            visible: root.opens
-            text: "›"
-            color: Theme.secondaryText
-            font.pixelSize: 20
-            Accessible.ignored: true
-        }
+        visible: root.opens
+        text: "›"
+        color: Theme.secondaryText
+        font.pixelSize: 20
+        Accessible.ignored: true
     }
     Loader {
         anchors { right: parent.right; margins: Theme.margin; verticalCenter: parent.verticalCenter }

@@ -38,8 +38,22 @@ FocusScope {
         color: Theme.secondaryText
         font.pixelSize: Theme.textSize
     }
+    Connections {
+        target: root.screen
+        function onRowsRefreshed() { table.measure() }
+    }
     Table {
         id: table
+
+        property real titleColumn: 0
+        property int detailSize: Theme.detailSize
+        readonly property real detailWidth: width - 2 * Theme.margin - titleColumn - 28
+
+        function measure() {
+            titleColumn = root.screen.titleColumn(width)
+            detailSize = root.screen.detailSize(detailWidth)
+        }
+        onWidthChanged: measure()
         // On a wide screen a row stays narrow enough for the eye to follow from its title to its meaning.
         width: Math.min(parent.width, 640)
         height: parent.height - y
@@ -53,6 +67,8 @@ FocusScope {
         delegate: FunctionSelectCell {
             width: table.width
             height: rowHeight
+            titleColumn: table.titleColumn
+            detailSize: table.detailSize
             screen: root.screen
             onTapped: root.screen.select(index)
         }

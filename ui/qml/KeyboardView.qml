@@ -36,9 +36,9 @@ FocusScope {
         width: root.screen.backingFrame.width
         height: root.screen.backingFrame.height
         color: root.screen.backgroundColor
-        Rectangle {
+        Hairline {
             width: parent.width
-            height: 0.5
+            atTop: true
             color: "#6a7078"
         }
     }

@@ -69,9 +69,8 @@ Rectangle {
             }
         }
     }
-    Rectangle {
+    Hairline {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        height: 0.5
         color: "#4a4f57"
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import Velmora
 
 // A choice of a few, side by side.
-Rectangle {
+RoundedFace {
     id: root
 
     property var items: []
@@ -11,18 +11,31 @@ Rectangle {
 
     signal chosen(int index)
 
-    implicitWidth: 90 * items.length
+    // Every segment is as wide as the widest text asks for.
+    readonly property real widestText: {
+        let widest = 40
+        for (const text of items) {
+            widest = Math.max(widest, metrics.advanceWidth(text))
+        }
+        return Math.ceil(widest)
+    }
+
+    implicitWidth: (widestText + 20) * items.length + 4
     implicitHeight: 32
     radius: 8
     color: Theme.pressed
     Accessible.role: Accessible.Grouping
     Accessible.name: spokenName
 
+    FontMetrics {
+        id: metrics
+        font { pixelSize: 14; bold: true }
+    }
     Row {
         anchors { fill: parent; margins: 2 }
         Repeater {
             model: root.items
-            delegate: Rectangle {
+            delegate: RoundedFace {
                 id: segment
 
                 required property int index
@@ -33,7 +46,8 @@ Rectangle {
                 height: root.height - 4
                 radius: 6
                 color: isCurrent ? Theme.chosen : "transparent"
-                border { width: activeFocus && FocusMarks.shown ? 1.5 : 0; color: Theme.accent }
+                edgeWidth: 1.5
+                edgeColor: activeFocus && FocusMarks.shown ? Theme.accent : "transparent"
                 activeFocusOnTab: true
                 Keys.forwardTo: tap
                 Accessible.role: Accessible.RadioButton

@@ -56,23 +56,30 @@ Loader {
     Component {
         id: segmentedRow
         TableRow {
-            height: 50
+            id: segmented
+
+            // Where both do not fit side by side, the choices stand below the title.
+            readonly property bool stacked:
+                segmentedTitle.implicitWidth + control.implicitWidth + 3 * Theme.margin > width
+
+            height: stacked ? 86 : 50
             selectable: false
             Accessible.ignored: true
             Text {
                 id: segmentedTitle
-                anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-                width: parent.width - control.width - 3 * Theme.margin
+                x: Theme.margin
+                height: 50
+                verticalAlignment: Text.AlignVCenter
                 text: root.title
                 color: Theme.text
                 font.pixelSize: Theme.textSize
-                wrapMode: Text.WordWrap
                 Accessible.ignored: true
             }
             SegmentedControl {
                 id: control
-                anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-                width: Math.min(80 * root.items.length, 0.6 * parent.width)
+                x: segmented.stacked ? Theme.margin : parent.width - width - Theme.margin
+                y: segmented.stacked ? 44 : (50 - height) / 2
+                width: segmented.stacked ? parent.width - 2 * Theme.margin : implicitWidth
                 spokenName: root.title
                 items: root.items
                 currentIndex: root.chosen

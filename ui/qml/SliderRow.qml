@@ -7,6 +7,11 @@ TableRow {
 
     property string title
     property double fraction: 0
+    // What a screen reader asks a slider for.
+    readonly property int value: Math.round(100 * fraction)
+    readonly property int minimumValue: 0
+    readonly property int maximumValue: 100
+    readonly property int stepSize: 10
 
     signal moved(double fraction)
 
@@ -17,6 +22,15 @@ TableRow {
     spokenRole: Accessible.Slider
     Keys.onLeftPressed: moved(Math.max(0, fraction - 0.1))
     Keys.onRightPressed: moved(Math.min(1, fraction + 0.1))
+    Keys.onPressed: event => {
+        const places = { [Qt.Key_Home]: 0, [Qt.Key_End]: 1 }
+        if (event.key in places) {
+            moved(places[event.key])
+            event.accepted = true
+        }
+    }
+    Accessible.onDecreaseAction: moved(Math.max(0, fraction - 0.1))
+    Accessible.onIncreaseAction: moved(Math.min(1, fraction + 0.1))
 
     Text {
         anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
@@ -30,14 +44,14 @@ TableRow {
         anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
         width: 0.45 * parent.width
         height: 40
-        Rectangle {
+        RoundedFace {
             anchors.verticalCenter: parent.verticalCenter
             width: parent.width
             height: 4
             radius: 2
             color: Theme.pressed
         }
-        Rectangle {
+        RoundedFace {
             x: root.fraction * (track.width - width)
             anchors.verticalCenter: parent.verticalCenter
             width: 24

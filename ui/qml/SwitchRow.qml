@@ -43,16 +43,15 @@ TableRow {
             Accessible.ignored: true
         }
     }
-    Rectangle {
+    RoundedFace {
         id: knobGround
         anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
         width: 50
         height: 30
         radius: 15
         color: root.checked ? Theme.chosen : Theme.pressed
-        border { width: 1; color: root.checked ? Theme.chosen : Theme.secondaryText }
-        Behavior on color { ColorAnimation { duration: 120 } }
-        Rectangle {
+        edgeColor: root.checked ? Theme.chosen : Theme.secondaryText
+        RoundedFace {
             y: 3
             x: root.checked ? parent.width - width - 3 : 3
             width: 24

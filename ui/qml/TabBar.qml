@@ -1,4 +1,5 @@
 import QtQuick
+import Velmora
 
 // The tabs at the bottom of the scene, sharing its width equally.
 Rectangle {
@@ -8,9 +9,9 @@ Rectangle {
 
     color: "#17191c"
 
-    Rectangle {
+    Hairline {
         anchors { left: parent.left; right: parent.right; top: parent.top }
-        height: 0.5
+        atTop: true
         color: "#4a4f57"
     }
     Row {

@@ -24,9 +24,8 @@ Rectangle {
     Accessible.focusable: selectable
     Accessible.onPressAction: if (selectable) tapped()
 
-    Rectangle {
+    Hairline {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: Theme.margin }
-        height: 1
         color: Theme.separator
     }
     Rectangle {

@@ -34,12 +34,16 @@ TableRow {
     Text {
         id: label
         anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-        width: Math.min(implicitWidth, 0.72 * root.width)
+        // All but the room that a value needs.
+        width: Math.min(implicitWidth, root.width - 2 * Theme.margin - 12 - Math.max(60, 0.2 * root.width))
         text: root.title
         color: Theme.text
         font.pixelSize: Theme.textSize
-        fontSizeMode: Text.HorizontalFit
-        minimumPixelSize: 10
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+        lineHeight: 0.95
+        fontSizeMode: Text.Fit
+        minimumPixelSize: 12
         textFormat: Text.PlainText
         Accessible.ignored: true
     }

@@ -1,6 +1,7 @@
 #include "calculator/lists/ConstantEditViewController.h"
 #include "calculator/lists/FunctionListTrimming.h"
 #include "calculator/lists/FunctionSelectViewController.h"
+#include "calculator/lists/ListedConstant.h"
 #include "calculator/model/ConstantName.h"
 #include "platform/files/Resources.h"
 #include "platform/machine/Clock.h"
@@ -99,6 +100,21 @@ TEST_F(FunctionSelectTest, showsEachKindOfContent) {
     EXPECT_EQ(Model::m().angleModeAsString(), "Degrees");
 }
 
+TEST(ListedConstant, tellsValueAndUnit) {
+    const std::array<std::array<const char*, 3>, 7> cases{{
+        {"c=299792458", "speed of light in vacuum, m/s", "299792458 m/s"},
+        {"G=0.000000000066743(0)", "Newtonian constant of gravitation, m³/(kg s²)", "6.6743E-11 m³/(kg s²)"},
+        {"T0=273.15", "0 °C, K", "273.15 K"},
+        {"α=0.007297352564(3)", "fine-structure constant", "0.0072973525643"},
+        {"e", "Euler’s number, base of the natural logarithm", ""},
+        {"sin(", "sine, of an angle", ""},
+        {"k=word", "no number, m", ""},
+    }};
+    for (const auto& [content, hint, text] : cases) {
+        EXPECT_EQ(listedConstantValue(content, hint), text);
+    }
+}
+
 TEST_F(FunctionSelectTest, putsChoicesIntoTheLine) {
     openList();
     choose("Waves"); // does nothing
@@ -113,10 +129,12 @@ TEST_F(FunctionSelectTest, putsChoicesIntoTheLine) {
     choose("gcd(,)");
     EXPECT_EQ(stack->topViewController(), keyboard);
     EXPECT_EQ(entry(), "sin(gcd(_,");
+    Model::m().equations().setExpressionAtIndex(3, ExpressionWithTokenArray(tokens("x + 1")), false);
     press("func");
     choose("Equations");
     ASSERT_EQ(top().rows().size(), 4U);
     EXPECT_EQ(top().rows()[3].detail, "y4 from equations tab");
+    EXPECT_EQ(top().rows()[3].value, "x+1") << "what stands behind the name";
     choose("y4()");
     EXPECT_EQ(entry(), "sin(gcd(y4(_,");
     const auto named = std::make_shared<FunctionSelectViewController>();
