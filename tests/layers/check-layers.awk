@@ -13,7 +13,7 @@ function startFile(parts, count) {
     layer = isTest ? parts[2] : parts[1]
     room = count > 2 && !isTest && !isTool ? parts[1] "/" parts[2] : ""
     # The start of the program is measured against a bare Qt Quick window.
-    knowsQt = layer == "ui" || FILENAME ~ /^bench\/(start|screen|graph)\//
+    knowsQt = layer == "ui" || FILENAME ~ /^bench\/(start|screen|graph|pages)\//
     inComment = 0
     if (isTest && count < 3) {
         layer = "" # helpers for the tests of every layer
