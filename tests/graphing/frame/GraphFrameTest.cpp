@@ -51,7 +51,7 @@ TEST_F(GraphOnPixels, samplesOfASlowEquationStopAtTheDeadlineAndGoOnAtRest) {
     const PixelContext complete = shownAnew();
     ASSERT_TRUE(view().isRefined());
 
-    const TickingClock clock(0.002);
+    TickingClock clock(0.002);
     const ClockScope scope(clock);
     const PixelContext first = shownAnew();
     EXPECT_FALSE(view().isRefined());
@@ -64,7 +64,7 @@ TEST_F(GraphOnPixels, samplesOfASlowEquationStopAtTheDeadlineAndGoOnAtRest) {
 TEST_F(GraphOnPixels, noCurveWaitsForOneThatNeverEnds) {
     setEquation(0, "tan( 10000 * x )");
     setEquation(2, "10 * sin( 50 * x )");
-    const TickingClock clock(0.0001);
+    TickingClock clock(0.0001);
     const ClockScope scope(clock);
     const PixelContext first = shownAnew();
     ASSERT_FALSE(view().isRefined());
@@ -78,7 +78,7 @@ TEST_F(GraphOnPixels, noCurveWaitsForOneThatNeverEnds) {
 
 TEST_F(GraphOnPixels, isPaintedSomeTenTimesASecondAtRest) {
     setEquation(0, "10 * sin( 1E6 * x )");
-    const TickingClock clock(0.0005);
+    TickingClock clock(0.0005);
     const ClockScope scope(clock);
     shownAnew();
     const double start = monotonicSeconds();
