@@ -135,7 +135,6 @@ TEST_P(ToolScreens, wheelsAreTurnedByKeysAndAScreenReader) {
     spoken->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
     spoken->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
     EXPECT_EQ(chosen("From"), utf8("square kilometer"));
-    EXPECT_EQ(spoken->valueInterface()->currentValue().toInt(), 1);
 }
 
 TEST_P(ToolScreens, theConverterIsThereAgainWhereItWasLeftOpen) {
