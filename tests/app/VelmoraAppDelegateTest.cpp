@@ -71,8 +71,8 @@ TEST_F(VelmoraAppDelegateTest, tabsStandInTheirOrderAsFarAsTheirScreensExist) {
         {"Graph", "graph.png", "GraphViewController"},
         {"Reference", "reference.png", "FunctionSelectViewController"},
         {"Table", "table.png", "ValueTableViewController", true},
-        {"Triangle Solver", "triangleSolver.png", "TriangleSolverViewController", true},
-        {"Polynomial Solvers", "polynomialSolver.png", "PolynomialSolversViewController", true},
+        {"Triangle Solver", "triangleSolver.png", "TriangleSolverViewController"},
+        {"Polynomial Solvers", "polynomialSolver.png", "PolynomialSolversViewController"},
         {"Settings", "settings.png", "SettingsViewController"},
         {"If you like this app", "heart", "PageViewController"},
         {"Help", "questionMark.png", "FunctionSelectViewController"}};
