@@ -106,7 +106,8 @@ TEST(Appearance, noticesCoverNeitherBarNorLineNorNewestRow) {
 
 TEST(Appearance, focusIsMarkedOnceAKeyHasMovedIt) {
     RunningProgram program;
-    const auto* marks = program.window().engine()->singletonInstance<FocusMarks*>("Velmora", "FocusMarks");
+    const auto* marks =
+        program.window().engine()->singletonInstance<FocusMarks*>(qmlTypeId("Velmora", 1, 0, "FocusMarks"));
     ASSERT_NE(marks, nullptr);
     program.click(utf8("7"));
     program.type(utf8("8"));
