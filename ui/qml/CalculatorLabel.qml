@@ -110,12 +110,14 @@ Item {
         onHeld: root.screen.openEditMenu()
     }
     TapArea {
-        // Larger than its letters, for a finger; the keys below keep their place.
+        // Larger than its letters, for a finger: into the history above, or into the room below an editor's line.
+        readonly property real room: 14
+
         visible: root.screen.angleSignShown
         x: angleSign.x - 10
-        y: angleSign.y - 10
+        y: angleSign.y - (caret.atRight ? room : 0)
         width: angleSign.width + 20
-        height: angleSign.height + 10
+        height: angleSign.height + room
         onTapped: root.screen.switchAngleMode()
 
         Accessible.role: Accessible.Button
