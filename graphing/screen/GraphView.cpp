@@ -207,6 +207,7 @@ void GraphView::resumeRefinement() {
         return;
     }
     m_refinementTimer = startTimer(kRestSeconds, TimerKind::OneShot, [this] {
+        m_lastShown = -HUGE_VAL; // long ago: the first slice shows at once
         m_refinementTimer = startTimer(0, TimerKind::Repeating, [this] { refineSlice(); });
     });
 }

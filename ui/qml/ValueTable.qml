@@ -28,7 +28,9 @@ FocusScope {
         focus: true
         model: root.screen
         reuseItems: true
-        keyNavigationEnabled: false // keys move the mark
+        keyNavigationEnabled: false // keys move the mark, whose row has the focus
+        currentIndex: root.screen.markedRow
+        highlightFollowsCurrentItem: false
         cacheBuffer: height
         Accessible.name: root.screen.title
         onWidthChanged: root.screen.width = width
