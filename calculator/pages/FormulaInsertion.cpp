@@ -40,7 +40,8 @@ void insertTokens(KeyboardViewController& keyboard, TokenArray tokens) {
 
 /// False, with nothing inserted, for what does not parse.
 bool insertIfItParses(const std::optional<TokenArray>& tokens, NavigationController* stack) {
-    if (!tokens || Expression::newExpressionWithTokens(*tokens)->errorDescription()) {
+    const auto tree = tokens ? Expression::newExpressionWithTokens(*tokens) : nullptr;
+    if (!tree || tree->isMark() || tree->errorDescription()) {
         showAlert("This formula cannot be typed into a line.");
         return false;
     }

@@ -16,7 +16,9 @@ std::vector<Rect> everything(const UnitConvertLayout& layout) {
 }
 
 bool overlap(const Rect& a, const Rect& b) {
-    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height;
+    constexpr double kRounding = 1e-9; // neighbours touch to within the rounding of the scale
+    return a.x + kRounding < b.x + b.width && b.x + kRounding < a.x + a.width &&
+           a.y + kRounding < b.y + b.height && b.y + kRounding < a.y + a.height;
 }
 
 TEST(UnitConvertLayout, fillsEveryScreenWithoutOverlap) {
