@@ -67,16 +67,14 @@ TEST(Appearance, separatorsAreOnePixelAtEveryScale) {
 
 TEST(Appearance, titlesStandInTheMiddleOfTheBar) {
     RunningProgram program({390, 844});
-    program.click(utf8("More"));
-    program.click(utf8("Settings"));
-    EXPECT_NEAR(frameOfRole(program, QAccessible::Heading, utf8("Settings")).center().x(), 195, 1);
-    program.click(utf8("Calculator"));
     program.clickAll(utf8("constants, User-defined constants"));
     // A long one moves as far as the buttons force it, and no further.
     const QRectF title = frameOfRole(program, QAccessible::Heading, utf8("User-defined constants"));
     const QRectF back = program.frameInWindow(program.item(utf8("Back to Constants")));
     const QRectF edit = program.frameInWindow(program.item(utf8("Edit")));
     EXPECT_FALSE(title.intersects(back) || title.intersects(edit));
+    program.clickAll(utf8("More, Settings"));
+    EXPECT_NEAR(frameOfRole(program, QAccessible::Heading, utf8("Settings")).center().x(), 195, 1);
 }
 
 TEST(Appearance, noticesCoverNeitherBarNorLineNorNewestRow) {

@@ -175,9 +175,11 @@ TEST_P(Screens, everythingIsThereAgainAfterAKillInTheBackground) {
     program.settle();
     Model::m().setDisplayDigits(9); // lost: nothing is saved at other moments
     program.startAgain();
-    EXPECT_EQ(program.historyRows(), QStringList{utf8("2/3 is 0.667")});
+    EXPECT_TRUE(program.isOnScreen(utf8("Display decimal places"))) << "it comes back to the tab that showed";
     program.click(utf8("Equations"));
     EXPECT_TRUE(program.isOnScreen(utf8("y3(x)=x^2")));
+    program.click(utf8("Calculator"));
+    EXPECT_EQ(program.historyRows(), QStringList{utf8("2/3 is 0.667")});
     EXPECT_TRUE(Model::m().settingsHaveBeenAccessed());
     EXPECT_EQ(Model::m().nHasBecomeActive(), 2);
 }

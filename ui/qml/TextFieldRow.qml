@@ -35,7 +35,7 @@ TableRow {
         id: label
         anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
         // All but the room that a value needs.
-        width: Math.min(implicitWidth, root.width - 2 * Theme.margin - 12 - Math.max(60, 0.2 * root.width))
+        width: Math.min(implicitWidth, root.width - 2 * Theme.margin - 12 - Math.max(40, 0.12 * root.width))
         text: root.title
         color: Theme.text
         font.pixelSize: Theme.textSize

@@ -87,6 +87,7 @@ FocusScope {
             required property var modelData
             frame: modelData.frame
             shown: true
+            repeats: false
             title: modelData.title
             titleFont: Qt.font({ pixelSize: 20 * root.screen.scale })
             titleColor: "white"
