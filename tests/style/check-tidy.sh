@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # check-tidy.sh ROOT BUILD [--all | FILE...]: runs clang-tidy over the program's own sources, as they were
 # compiled in BUILD with Ninja: those that the changes in the working tree touch, or all, or those named.
-# Where CI is set, or where git knows nothing of the tree, it looks at all of them.
+# Where VELMORA_TIDY_ALL is set, or where git knows nothing of the tree, it looks at all of them.
 #
 # A source that was clean stays clean until it, a header of ours that it includes, or the configuration
 # changes; so a second run looks only at what was touched.
@@ -44,7 +44,7 @@ if [[ ! -s $work/sources ]]; then
     exit 1
 fi
 
-if [[ $# -eq 0 && -z ${CI:-} ]] && git rev-parse --git-dir >/dev/null 2>&1; then
+if [[ $# -eq 0 && -z ${VELMORA_TIDY_ALL:-} ]] && git rev-parse --git-dir >/dev/null 2>&1; then
     # A changed header concerns every source that reads it.
     { git diff --name-only HEAD && git ls-files --others --exclude-standard; } >"$work/wanted"
     awk 'FILENAME == ARGV[1] { wanted[$1]; next }

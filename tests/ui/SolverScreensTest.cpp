@@ -112,6 +112,7 @@ TEST_P(SolverScreens, aTriangleIsSolvedAsItIsTyped) {
     program.touch(utf8("Triangle"));
     picture("triangle-other");
     EXPECT_TRUE(program.isOnScreen(utf8("Area 0.307008")));
+    program.scrollTo(utf8("Clear all"));
     program.click(utf8("Clear all"));
     EXPECT_TRUE(program.isOnScreen(
         utf8("Enter three values, including at least one side.  Use degrees for angles.")));
@@ -123,6 +124,7 @@ TEST_P(SolverScreens, aTriangleIsSolvedAsItIsTyped) {
     picture("triangle-345");
     EXPECT_TRUE(program.isOnScreen(utf8("There is one solution.")));
     EXPECT_TRUE(program.isOnScreen(utf8("Area 6")));
+    program.scrollTo(utf8("Clear calculated"));
     program.click(utf8("Clear calculated"));
     EXPECT_FALSE(program.isOnScreen(utf8("Area 6")));
 }
