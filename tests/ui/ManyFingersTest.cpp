@@ -150,7 +150,14 @@ TEST(ManyFingers, randomTouchesEndNoScreen) {
         program.application().alerts().choose(0);
     }
     program.settle();
-    program.click(utf8("Calculator"));
+    for (const QQuickItem* tab : program.items(QAccessible::PageTab)) { // a heading may have that name, too
+        if (program.spokenName(tab) == utf8("Calculator")) {
+            program.clickAt(program.pointOf(tab));
+        }
+    }
+    for (int pushed = 0; pushed < 5 && !program.isOnScreen(utf8("Line")); ++pushed) {
+        program.press(Qt::Key_Escape); // leaves what the touches have opened
+    }
     EXPECT_TRUE(program.isOnScreen(utf8("Line"))) << "and it still works";
 }
 
