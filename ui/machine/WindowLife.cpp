@@ -25,6 +25,7 @@ bool WindowLife::eventFilter(QObject* watched, QEvent* event) {
     // The first time on screen counts even where no window manager hands out the focus.
     if (event->type() == QEvent::Expose && m_window.isExposed() && !m_hasBeenShown) {
         m_hasBeenShown = true;
+        m_window.requestActivate(); // there, nobody else would send it the keys
         setActive(true);
     }
     return QObject::eventFilter(watched, event);
